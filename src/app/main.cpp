@@ -1,0 +1,31 @@
+// zorta: the desktop application without arguments, a headless sub-command with them.
+#include <QApplication>
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "app/inicio.h"
+#include "app/screens/mdi_main.h"
+#include "cli/cli.h"
+#include "platform/screens/dialogos_qt.h"
+
+namespace {
+
+int Aplicacion(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Zorta"));
+    Instala_Dialogos(std::make_unique<DialogosQt>());
+    if (!MDIForm_Load()) return 1;
+    MdiMain principal;
+    principal.show();
+    principal.Muestra_Pantalla(QStringLiteral("frmCorrecPru"));
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) return Aplicacion(argc, argv);
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Zorta"));
+    return Ejecuta_Cli(QCoreApplication::arguments().mid(1));
+}

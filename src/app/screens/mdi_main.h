@@ -1,0 +1,39 @@
+// MdiMain, "Principal": the one main window. Its menu sets shared flags and shows screens
+// inside the window; closing it asks first, "Salir" does not.
+#pragma once
+
+#include <QMainWindow>
+#include <QMap>
+#include <functional>
+
+class QMdiArea;
+class QMdiSubWindow;
+class QAction;
+
+class MdiMain : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MdiMain(QWidget* padre = nullptr);
+
+    // Shows a screen by name: created when missing, brought to the front when open.
+    QWidget* Muestra_Pantalla(const QString& nombre);
+    // The screen open under that name, or null.
+    QWidget* Pantalla(const QString& nombre) const;
+    QAction* Accion(const QString& control) const { return acciones_.value(control); }
+
+    void mnu_salir_Click();
+    bool Salio() const { return salio_; }
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    void Construye_Menu();
+    void Ejecuta(const QString& control);
+
+    QMdiArea* area_;
+    QMap<QString, QAction*> acciones_;
+    QMap<QString, std::function<QWidget*()>> fabricas_;
+    QMap<QString, QMdiSubWindow*> abiertas_;
+    bool salio_ = false;
+};

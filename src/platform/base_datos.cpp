@@ -1,0 +1,160 @@
+// The store engine over Qt SQL and SQLite.
+#include "platform/base_datos.h"
+
+#include <QAtomicInt>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include "platform/error_ejecucion.h"
+
+namespace {
+
+[[noreturn]] void Falla(const QSqlError& error, const QString& sql) {
+    throw ErrorEjecucion(QStringLiteral("Error en la base de datos: %1\n%2")
+                             .arg(error.text().trimmed(), sql.trimmed()));
+}
+
+QSqlQuery Prepara(const QSqlDatabase& db, const QString& sql, const QVariantList& parametros) {
+    QSqlQuery q(db);
+    q.setForwardOnly(true);
+    if (!q.prepare(sql)) Falla(q.lastError(), sql);
+    for (const QVariant& p : parametros) q.addBindValue(p);
+    if (!q.exec()) Falla(q.lastError(), sql);
+    return q;
+}
+
+bool Es_Nombre_De_Tabla(const QString& texto) {
+    for (const QChar c : texto)
+        if (!(c.isLetterOrNumber() || c == QLatin1Char('_'))) return false;
+    return !texto.isEmpty();
+}
+
+}  // namespace
+
+void Recordset::Close() {
+    filas_.clear();
+    fila_ = 0;
+}
+
+int Recordset::Posicion(const QString& nombre) const {
+    for (int i = 0; i < columnas_.size(); ++i)
+        if (columnas_[i].compare(nombre, Qt::CaseInsensitive) == 0) return i;
+    throw ErrorEjecucion(QStringLiteral("El campo %1 no existe en esta consulta.").arg(nombre));
+}
+
+QVariant Recordset::operator[](int posicion) const {
+    if (posicion < 0 || posicion >= columnas_.size())
+        throw ErrorEjecucion(QStringLiteral("El campo %1 no existe en esta consulta.").arg(posicion));
+    return Eof() ? QVariant() : filas_[fila_].at(posicion);
+}
+
+QVariant Recordset::operator[](const QString& nombre) const { return (*this)[Posicion(nombre)]; }
+
+void Recordset::AddNew() {
+    if (tabla_.isEmpty())
+        throw ErrorEjecucion(QStringLiteral("Solo una tabla abierta por su nombre admite filas nuevas."));
+    nuevos_campos_.clear();
+    nuevos_valores_.clear();
+}
+
+void Recordset::Fija(const QString& campo, const QVariant& valor) {
+    Posicion(campo);  // an unknown field fails here, as the assignment would
+    nuevos_campos_ << campo;
+    nuevos_valores_ << valor;
+}
+
+void Recordset::Update() {
+    QStringList marcas;
+    for (qsizetype i = 0; i < nuevos_campos_.size(); ++i) marcas << QStringLiteral("?");
+    base_->Execute(QStringLiteral("insert into %1 (%2) values (%3)")
+                       .arg(tabla_, nuevos_campos_.join(QLatin1Char(',')), marcas.join(QLatin1Char(','))),
+                   nuevos_valores_);
+    nuevos_campos_.clear();
+    nuevos_valores_.clear();
+}
+
+BaseDatos::BaseDatos(QString ruta, QString conexion)
+    : ruta_(std::move(ruta)), conexion_(std::move(conexion)) {}
+
+BaseDatos::~BaseDatos() {
+    {
+        QSqlDatabase d = db();
+        d.close();
+    }
+    QSqlDatabase::removeDatabase(conexion_);
+}
+
+QSqlDatabase BaseDatos::db() const { return QSqlDatabase::database(conexion_, false); }
+
+std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta) {
+    static QAtomicInt contador;
+    const QString conexion = QStringLiteral("zorta_%1").arg(contador.fetchAndAddRelaxed(1));
+    std::shared_ptr<BaseDatos> base(new BaseDatos(ruta, conexion));
+    {
+        QSqlDatabase d = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), conexion);
+        d.setDatabaseName(ruta);
+        d.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+        if (!d.open())
+            throw ErrorEjecucion(QStringLiteral("No se pudo abrir la base de datos %1: %2")
+                                     .arg(ruta, d.lastError().text()));
+    }
+    // Reading the journal mode touches the file header: a file that is not a store fails here.
+    try {
+        base->Execute(QStringLiteral("PRAGMA journal_mode=WAL"));
+        base->Execute(QStringLiteral("PRAGMA synchronous=FULL"));
+    } catch (const ErrorEjecucion& e) {
+        throw ErrorEjecucion(QStringLiteral("No se pudo abrir la base de datos %1: %2").arg(ruta, e.texto()));
+    }
+    return base;
+}
+
+int BaseDatos::Execute(const QString& sql, const QVariantList& parametros) {
+    QSqlQuery q = Prepara(db(), sql, parametros);
+    const int filas = q.numRowsAffected();
+    q.finish();
+    return filas;
+}
+
+Recordset BaseDatos::OpenRecordset(const QString& sql_o_tabla, const QVariantList& parametros) {
+    Recordset rs;
+    rs.base_ = this;
+    QString sql = sql_o_tabla;
+    if (Es_Nombre_De_Tabla(sql_o_tabla.trimmed())) {
+        rs.tabla_ = sql_o_tabla.trimmed();
+        sql = QStringLiteral("select * from ") + rs.tabla_;
+    }
+    QSqlQuery q = Prepara(db(), sql, parametros);
+    const QSqlRecord registro = q.record();
+    const int n = registro.count();
+    for (int i = 0; i < n; ++i) rs.columnas_ << registro.fieldName(i);
+    while (q.next()) {
+        QVariantList fila;
+        fila.reserve(n);
+        for (int i = 0; i < n; ++i) fila << q.value(i);
+        rs.filas_.push_back(std::move(fila));
+    }
+    q.finish();
+    return rs;
+}
+
+bool BaseDatos::TableExists(const QString& nombre) {
+    Recordset rs = OpenRecordset(
+        QStringLiteral("select name from sqlite_master where type = 'table' and lower(name) = lower(?)"),
+        {nombre});
+    return !rs.Eof();
+}
+
+void BaseDatos::CompactDatabase(const QString& destino) {
+    Execute(QStringLiteral("VACUUM INTO ?"), {destino});
+}
+
+void BaseDatos::BeginTrans() {
+    if (!db().transaction()) Falla(db().lastError(), QStringLiteral("BEGIN"));
+}
+
+void BaseDatos::CommitTrans() {
+    if (!db().commit()) Falla(db().lastError(), QStringLiteral("COMMIT"));
+}
+
+void BaseDatos::Rollback() { db().rollback(); }

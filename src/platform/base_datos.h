@@ -1,0 +1,80 @@
+// The store engine: one SQLite file opened through Qt SQL. Values always travel as bound
+// parameters; a failed statement is an ErrorEjecucion at the caller.
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVariantList>
+#include <memory>
+#include <vector>
+
+class BaseDatos;
+
+// The rows of a query, walked with Eof/MoveNext; fields by name (case-blind) or by position
+// from 0. A recordset opened on a plain table name also adds rows with AddNew/Fija/Update.
+class Recordset {
+public:
+    Recordset() = default;
+
+    bool Eof() const { return fila_ >= filas_.size(); }
+    void MoveNext() { ++fila_; }
+    void MoveFirst() { fila_ = 0; }
+    void Close();
+    int RecordCount() const { return static_cast<int>(filas_.size()); }
+    int FieldCount() const { return static_cast<int>(columnas_.size()); }
+    const QString& FieldName(int posicion) const { return columnas_.at(posicion); }
+
+    // The field of the current row; a null value past the end or for a null field.
+    QVariant operator[](int posicion) const;
+    QVariant operator[](const QString& nombre) const;
+    QVariant operator[](const char* nombre) const { return (*this)[QString::fromUtf8(nombre)]; }
+
+    void AddNew();
+    void Fija(const QString& campo, const QVariant& valor);
+    void Update();
+
+private:
+    friend class BaseDatos;
+    int Posicion(const QString& nombre) const;
+
+    BaseDatos* base_ = nullptr;
+    QString tabla_;
+    QStringList columnas_;
+    std::vector<QVariantList> filas_;
+    size_t fila_ = 0;
+    QStringList nuevos_campos_;
+    QVariantList nuevos_valores_;
+};
+
+class BaseDatos {
+public:
+    // Opens (or creates) the store file; ErrorEjecucion when it can't be opened as a store.
+    static std::shared_ptr<BaseDatos> OpenDatabase(const QString& ruta);
+    ~BaseDatos();
+    BaseDatos(const BaseDatos&) = delete;
+    BaseDatos& operator=(const BaseDatos&) = delete;
+
+    // Runs one statement; `?` placeholders take `parametros` in order. Rows affected.
+    int Execute(const QString& sql, const QVariantList& parametros = {});
+    // A query, or the whole table when given a plain table name.
+    Recordset OpenRecordset(const QString& sql_o_tabla, const QVariantList& parametros = {});
+    bool TableExists(const QString& nombre);
+    // Writes a compacted copy of the store to `destino` (which must not exist).
+    void CompactDatabase(const QString& destino);
+
+    // Groups statements so that a sheet's rows are stored all or none.
+    void BeginTrans();
+    void CommitTrans();
+    void Rollback();
+
+    const QString& Ruta() const { return ruta_; }
+
+private:
+    BaseDatos(QString ruta, QString conexion);
+    QSqlDatabase db() const;
+
+    QString ruta_;
+    QString conexion_;
+};

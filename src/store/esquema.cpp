@@ -1,0 +1,97 @@
+// The tables of the store and the contents of a first store.
+#include "store/esquema.h"
+
+#include <QDate>
+#include <utility>
+#include <vector>
+
+#include "platform/base_datos.h"
+#include "platform/error_ejecucion.h"
+
+namespace {
+
+// Names and column lists in the order positional statements use. `Nota` is REAL so that
+// min, max and avg treat it as a number; every rut is TEXT.
+const std::vector<std::pair<QString, QString>>& Tablas() {
+    static const std::vector<std::pair<QString, QString>> tablas = {
+        {"prueba_rj",
+         "IdPrueba INTEGER PRIMARY KEY, NombrePrueba TEXT, TipoPrueba TEXT, NombreProfesor TEXT, "
+         "Asignatura TEXT, curso TEXT, Numero_Forma INTEGER, Fecha TEXT, Pregunta_Seleccion INTEGER, "
+         "puntaje_base INTEGER, Numero_Alternativas INTEGER, ingreso_pauta TEXT, formas INTEGER"},
+        {"Resp_preguntas_pautas", "IdPrueba INTEGER, pregunta INTEGER, Forma INTEGER, Alternativa INTEGER"},
+        {"respuesta_alumnos_por_rut",
+         "IdPrueba INTEGER, pregunta INTEGER, Forma INTEGER, Alternativa INTEGER, RUT_Alumno TEXT"},
+        {"ResultadoAlumnos_rj",
+         "IdPrueba INTEGER, Rut TEXT, Buenas INTEGER, Malas INTEGER, Omitidas INTEGER, Nulas INTEGER, "
+         "Puntaje INTEGER, Nota REAL, Logro INTEGER, Porcentaje INTEGER, Forma INTEGER"},
+        {"ALUMNOS", "Rut TEXT PRIMARY KEY, PRIMERAPELLIDO TEXT, curso TEXT, adicional TEXT"},
+        {"CURSOS", "curso TEXT, idnivel INTEGER, idcurso INTEGER"},
+        {"Niveles", "idniveles INTEGER PRIMARY KEY, nivel TEXT"},
+        {"Profesores", "NombreProfesor TEXT, rut TEXT"},
+        {"Asignaturas", "idasignatura INTEGER PRIMARY KEY, Asignatura TEXT"},
+        {"ejes", "IdEje INTEGER PRIMARY KEY, eje TEXT, TipoEnsayo TEXT, TipoPrueba TEXT"},
+        {"objetivos", "idobjetivo INTEGER PRIMARY KEY, concepto TEXT, descripcion TEXT, estado TEXT"},
+        {"indice_general", "tipo_indice TEXT PRIMARY KEY, valor_indice INTEGER"},
+        {"NivelesCalificacion", "concepto TEXT, desde REAL, hasta REAL"},
+        {"Puntaje_SIMCE", "puntaje_minimo INTEGER, puntaje_maximo INTEGER"},
+        {"puntajes_psu", "codigo_tema INTEGER, puntaje_min INTEGER, puntaje_max INTEGER"},
+        {"EjesPSU", "IdEje INTEGER, eje TEXT"},
+    };
+    return tablas;
+}
+
+// Indexes for the screens that look a test or a student up.
+const char* const kIndices[] = {
+    "CREATE INDEX ix_pautas ON Resp_preguntas_pautas (IdPrueba, Forma, pregunta)",
+    "CREATE INDEX ix_respuestas ON respuesta_alumnos_por_rut (IdPrueba, RUT_Alumno, pregunta)",
+    "CREATE INDEX ix_resultados ON ResultadoAlumnos_rj (IdPrueba, Rut)",
+    "CREATE INDEX ix_alumnos_curso ON ALUMNOS (curso)",
+    "CREATE INDEX ix_niveles_concepto ON NivelesCalificacion (concepto)",
+};
+
+// Chilean course levels, from pre-school to the last year of secondary school.
+const char* const kNiveles[] = {"Pre-Kínder", "Kínder",    "1° Básico", "2° Básico", "3° Básico",
+                                "4° Básico",  "5° Básico", "6° Básico", "7° Básico", "8° Básico",
+                                "1° Medio",   "2° Medio",  "3° Medio",  "4° Medio"};
+
+void Llena_Base_Nueva(BaseDatos& base) {
+    const QString indice = QStringLiteral("insert into indice_general values (?, ?)");
+    base.Execute(indice, {QStringLiteral("PRUEBA"), 0});
+    base.Execute(indice, {QStringLiteral("CURSO"), 0});
+    base.Execute(indice, {QStringLiteral("COLOR"), 180});
+
+    // Minimum grade 1.0; achievement on a 60 % scale; four levels for the SEP reports.
+    const QString nivel = QStringLiteral("insert into NivelesCalificacion values (?, ?, ?)");
+    const std::vector<std::tuple<QString, double, double>> umbrales = {
+        {"NM", 1, 0},   {"L", 80, 100},  {"PL", 60, 79},  {"NL", 0, 59},
+        {"NB", 0, 39},  {"NMB", 40, 59}, {"NMA", 60, 79}, {"NA", 80, 100},
+    };
+    for (const auto& [concepto, desde, hasta] : umbrales) base.Execute(nivel, {concepto, desde, hasta});
+
+    base.Execute(QStringLiteral("insert into Puntaje_SIMCE values (?, ?)"), {100, 400});
+    int id = 1;
+    for (const char* n : kNiveles)
+        base.Execute(QStringLiteral("insert into Niveles values (?, ?)"), {id++, QString::fromUtf8(n)});
+}
+
+}  // namespace
+
+QString Definicion_Tabla(const QString& tabla) {
+    for (const auto& [nombre, columnas] : Tablas())
+        if (nombre.compare(tabla, Qt::CaseInsensitive) == 0) return columnas;
+    return {};
+}
+
+void Crea_Base_Nueva(BaseDatos& base) {
+    base.BeginTrans();
+    try {
+        for (const auto& [nombre, columnas] : Tablas())
+            base.Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(nombre, columnas));
+        for (const char* ix : kIndices) base.Execute(QString::fromUtf8(ix));
+        Llena_Base_Nueva(base);
+        base.CommitTrans();
+    } catch (...) {
+        base.Rollback();
+        throw;
+    }
+}
