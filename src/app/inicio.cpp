@@ -70,6 +70,8 @@ QString Carpeta_Datos() {
 
 QString Ruta_Base() { return QDir(Carpeta_Datos()).filePath(QStringLiteral("BaseNota.db")); }
 
+// SQLite sees its own changes at once, so the store need not be reopened between the tests.
+// Table constraints stand after the columns, as SQLite requires; the column order is kept.
 void Migra_Esquema() {
     BaseDatos& base = *estado().BaseDatos;
     if (!base.TableExists(QStringLiteral("NEW_EJE_TEMATICO"))) {
@@ -86,9 +88,9 @@ void Migra_Esquema() {
             "numero_elimina_malas INTEGER , puntaje_min integer, puntaje_max integer);"));
     if (!base.TableExists(QStringLiteral("Puntajes_PSU_DINAMICO")))
         Intenta(QStringLiteral(
-            "CREATE TABLE Puntajes_PSU_DINAMICO (id_psu integer , numero_pregunta integer,"
-            "CONSTRAINT PK_MB_AUTOR_idMatBiblio_idAutor PRIMARY KEY(id_psu,numero_pregunta) , "
-            "nombre_psu char , puntaje_obtenido integer );"));
+            "CREATE TABLE Puntajes_PSU_DINAMICO (id_psu integer , numero_pregunta integer, "
+            "nombre_psu char , puntaje_obtenido integer , "
+            "CONSTRAINT PK_MB_AUTOR_idMatBiblio_idAutor PRIMARY KEY(id_psu,numero_pregunta));"));
 }
 
 bool MDIForm_Load() {

@@ -25,7 +25,9 @@ DialogosGuion::Paso DialogosGuion::Siguiente(const Caja& caja) {
     guion_.pop_front();
     const bool archivo = caja.tipo.endsWith(QLatin1String("Archivo"));
     EXPECT_EQ(archivo ? QStringLiteral("Archivo") : caja.tipo, p.tipo) << caja.texto.toStdString();
-    if (!archivo) EXPECT_EQ(caja.titulo, p.titulo) << caja.texto.toStdString();
+    if (!archivo) {
+        EXPECT_EQ(caja.titulo, p.titulo) << caja.texto.toStdString();
+    }
     return p;
 }
 

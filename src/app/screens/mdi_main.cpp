@@ -31,7 +31,9 @@ void MdiMain::Construye_Menu() {
         QAction* accion = nullptr;
         if (e.titulo == QLatin1String("-")) {
             accion = padres.back()->addSeparator();
-        } else if (e.nivel == 0 || tiene_hijos) {
+        } else if (e.nivel == 0 && !tiene_hijos) {
+            accion = menuBar()->addAction(e.titulo);
+        } else if (tiene_hijos) {
             QMenu* sub = e.nivel == 0 ? menuBar()->addMenu(e.titulo) : padres.back()->addMenu(e.titulo);
             padres.push_back(sub);
             accion = sub->menuAction();
@@ -68,12 +70,13 @@ QWidget* MdiMain::Muestra_Pantalla(const QString& nombre) {
     }
     if (!fabricas_.contains(nombre)) return nullptr;
     QWidget* pantalla = fabricas_[nombre]();
+    const QSize tamano = pantalla->size();  // the size the screen asked for
     pantalla->setAttribute(Qt::WA_DeleteOnClose);
     QMdiSubWindow* sub = area_->addSubWindow(pantalla);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     abiertas_[nombre] = sub;
-    connect(sub, &QObject::destroyed, this, [this, nombre] { abiertas_.remove(nombre); });
     sub->show();
+    sub->resize(sub->size() - pantalla->size() + tamano);
     return pantalla;
 }
 

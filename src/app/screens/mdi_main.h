@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QMap>
+#include <QPointer>
 #include <functional>
 
 class QMdiArea;
@@ -34,6 +35,6 @@ private:
     QMdiArea* area_;
     QMap<QString, QAction*> acciones_;
     QMap<QString, std::function<QWidget*()>> fabricas_;
-    QMap<QString, QMdiSubWindow*> abiertas_;
+    QMap<QString, QPointer<QMdiSubWindow>> abiertas_;  // null once closed
     bool salio_ = false;
 };

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Inside a virtual display: starts a window manager and Zorta ($ZORTA), waits, saves a picture
+# of the whole screen to $1 and ends both. Usage: captura.sh IMAGEN [SEGUNDOS]
+set -uo pipefail
+openbox >/dev/null 2>&1 &
+gestor=$!
+sleep 1
+"$ZORTA" >/dev/null 2>&1 &
+app=$!
+sleep "${2:-5}"
+import -window root "$1"
+kill "$app" "$gestor" 2>/dev/null
+wait 2>/dev/null
+exit 0
