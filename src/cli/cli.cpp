@@ -1,6 +1,9 @@
 // Dispatch of the headless sub-commands.
 #include "cli/cli.h"
 
+#include "cli/hoja.h"
+#include "cli/leer.h"
+
 #include <QTextStream>
 #include <functional>
 #include <map>
@@ -14,6 +17,8 @@ struct Subcomando {
 
 const std::map<QString, Subcomando>& subcomandos() {
     static const std::map<QString, Subcomando> tabla = {
+        {QStringLiteral("hoja"), {QStringLiteral("dibuja una hoja de respuestas (BMP)"), Cmd_Hoja}},
+        {QStringLiteral("leer"), {QStringLiteral("lee hojas escaneadas y escribe JSON"), Cmd_Leer}},
     };
     return tabla;
 }
