@@ -1,0 +1,11 @@
+// The rut: the Chilean national number with its check character, handled as text.
+#pragma once
+
+#include <QString>
+
+// True when the last character is the check character of the body before the first "-".
+bool Fnc_Valida_Rut(const QString& rut);
+
+// Key filter of a rut box: the hyphen, k, K, digits and backspace pass; any other key is
+// turned into Enter (13), which then does nothing. `pita` tells whether the machine beeps.
+int Filtra_Tecla_Rut(int codigo, bool* pita = nullptr);
