@@ -171,5 +171,6 @@ Imagen Dibuja_Hoja(const DisenoHoja& diseno) {
     Impreso(lienzo, diseno);
     Rellenos(lienzo, diseno);
     Manchas(lienzo.imagen(), diseno.manchas, azar);
+    for (const auto& [x, y] : diseno.manchas_en) lienzo.imagen().pinta(x, y, 20, 20, 20);
     return std::move(lienzo.imagen());
 }

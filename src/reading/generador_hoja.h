@@ -28,8 +28,9 @@ struct DisenoHoja {
     QString rut;
     std::vector<std::pair<int, int>> rut_extra;  // more marks: (column 0..8, row 0..10)
     std::vector<RellenoRespuesta> respuestas;
-    int ruido = 0;    // each channel moves at random by up to this much
-    int manchas = 0;  // dark specks of 1 to 3 pixels strewn at random
+    int ruido = 0;                                // each channel moves at random by up to this much
+    int manchas = 0;                              // dark specks of 1 to 3 pixels strewn at random
+    std::vector<std::pair<int, int>> manchas_en;  // one-pixel specks at these image pixels
     unsigned semilla = 1;
 };
 
