@@ -79,7 +79,7 @@ QString Linea_Leer(const QString& ruta, const OpcionesLectura& opciones, bool& a
     const QString archivo = QFileInfo(ruta).fileName();
     abierto = false;
     try {
-        const Imagen imagen = Imagen::Abre(ruta);
+        const Imagen imagen = Abre_Hoja(ruta);
         abierto = true;
         return Json(archivo, Lee_Hoja(imagen, opciones), {});
     } catch (const ErrorEjecucion& e) {

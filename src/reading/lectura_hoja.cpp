@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/estado.h"
+#include "platform/error_ejecucion.h"
 #include "reading/decodifica_marcas.h"
 #include "reading/registro_pagina.h"
 
@@ -84,6 +85,17 @@ bool Decodifica(HojaEnLectura& hoja, const OpcionesLectura& o, ResultadoHoja& r)
 }
 
 }  // namespace
+
+Imagen Abre_Hoja(const QString& ruta) {
+    constexpr int kLadoMinimo = 100;
+    Imagen imagen = Imagen::Abre(ruta);
+    if (imagen.ancho() < kLadoMinimo || imagen.alto() < kLadoMinimo)
+        throw ErrorEjecucion(
+            QStringLiteral("La imagen de %1 x %2 píxeles es demasiado pequeña para ser una hoja")
+                .arg(imagen.ancho())
+                .arg(imagen.alto()));
+    return imagen;
+}
 
 ResultadoHoja Lee_Hoja(const Imagen& imagen, const OpcionesLectura& opciones) {
     HojaEnLectura hoja(imagen);

@@ -38,5 +38,9 @@ struct OpcionesLectura {
 constexpr int kDistanciaMinima = 850;
 constexpr int kDistanciaMaxima = 898;
 
+// Opens a sheet's bitmap; a file that can't be opened, or an image too small to be a scanned
+// sheet, throws ErrorEjecucion with the reason in Spanish.
+Imagen Abre_Hoja(const QString& ruta);
+
 // Reads one sheet: the four rows of marks at gray 130, then form, rut and answers at 180.
 ResultadoHoja Lee_Hoja(const Imagen& imagen, const OpcionesLectura& opciones);
