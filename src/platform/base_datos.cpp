@@ -138,6 +138,13 @@ Recordset BaseDatos::OpenRecordset(const QString& sql_o_tabla, const QVariantLis
     return rs;
 }
 
+Recordset BaseDatos::OpenTable(const QString& tabla) {
+    if (!Es_Nombre_De_Tabla(tabla)) throw ErrorEjecucion(QStringLiteral("Nombre de tabla no válido: %1").arg(tabla));
+    Recordset rs = OpenRecordset(QStringLiteral("select * from %1 limit 0").arg(tabla));
+    rs.tabla_ = tabla;
+    return rs;
+}
+
 bool BaseDatos::TableExists(const QString& nombre) {
     Recordset rs = OpenRecordset(
         QStringLiteral("select name from sqlite_master where type = 'table' and lower(name) = lower(?)"),

@@ -60,6 +60,8 @@ public:
     int Execute(const QString& sql, const QVariantList& parametros = {});
     // A query, or the whole table when given a plain table name.
     Recordset OpenRecordset(const QString& sql_o_tabla, const QVariantList& parametros = {});
+    // A table opened to add rows: its columns, without reading its rows.
+    Recordset OpenTable(const QString& tabla);
     bool TableExists(const QString& nombre);
     // Writes a compacted copy of the store to `destino` (which must not exist).
     void CompactDatabase(const QString& destino);
