@@ -83,7 +83,7 @@ TEST(LeeSoloRut, Rarezas) {
         {870, QStringLiteral("1 3"), {}, QStringLiteral("1-3")},              // columns move up
         {870, QStringLiteral("7"), {}, QStringLiteral("-7")},
         {870, QString(), {}, QString()},
-        {895, QStringLiteral("90812"), {}, QStringLiteral("9701-")},
+        {895, QStringLiteral("90812"), {}, QStringLiteral("970-1")},
     };
     for (const Caso& c : casos) {
         DisenoHoja h = Hoja_Llena(c.distancia, false, "", 1, c.rut);

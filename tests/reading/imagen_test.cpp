@@ -93,7 +93,7 @@ TEST(Imagen, ArchivosQueNoSeAbren) {
     const std::vector<uint8_t> png = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0, 0, 13};
     const std::pair<std::vector<uint8_t>, const char*> casos[] = {
         {{}, "El archivo está vacío"},
-        {truncado, "El mapa de bits está truncado: tiene 67 bytes y necesita 70"},
+        {truncado, "El mapa de bits está truncado: tiene 73 bytes y necesita 78"},
         {png, "El archivo no es un mapa de bits BMP"},
         {enorme,
          "La cabecera del mapa de bits declara un tamaño imposible: 100000 x 100000 píxeles"},

@@ -23,8 +23,8 @@ TEST(BuscaValoresParametro, MarcasNiveladasDanElPuntoMovido) {
     }
 }
 
-// Worked by hand through the worksheet's steps: BETA to 5 decimals, ALFA a whole number (89,
-// not 90 - BETA / 2), A read back whole, 3.14159 for pi, half to even.
+// Worked by hand through the worksheet's steps: BETA to 5 decimals, ALFA read back as a whole
+// number (90 or 89, not 90 - BETA / 2), A read back whole, 3.14159 for pi, half to even.
 TEST(BuscaValoresParametro, FilaInclinadaDaAmbosPares) {
     struct Caso {
         int16_t X, Y, X1, Y1;
@@ -34,8 +34,10 @@ TEST(BuscaValoresParametro, FilaInclinadaDaAmbosPares) {
     };
     const Caso casos[] = {
         // Right mark 10 lower (turned clockwise) and 10 higher: the same BETA, mirrored pairs.
-        {59, 77, 911, 87, 902, 1422, 1, 0.67249, 89, 843, 902, 67, 87, 918, 1412, 886, 1432},
-        {59, 77, 911, 67, 902, 1422, 1, 0.67249, 89, 843, 902, 67, 87, 918, 1412, 886, 1432},
+        {59, 77, 911, 87, 902, 1422, 1, 0.67249, 90, 843, 902, 67, 87, 918, 1412, 886, 1432},
+        {59, 77, 911, 67, 902, 1422, 1, 0.67249, 90, 843, 902, 67, 87, 918, 1412, 886, 1432},
+        // 43 lower: ALFA 89.
+        {59, 77, 911, 120, 902, 1422, 1, 2.892, 89, 842, 901, 34, 120, 969, 1377, 833, 1463},
         // Shorter read row (845 on the block of 852) and 20 higher.
         {60, 80, 905, 60, 413, 460, 1, 1.42501, 89, 354, 414, 71, 89, 424, 454, 404, 472},
     };
