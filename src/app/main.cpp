@@ -6,6 +6,7 @@
 #include "app/inicio.h"
 #include "app/screens/mdi_main.h"
 #include "cli/cli.h"
+#include "grading/screens/frm_solo_rrut.h"
 #include "platform/screens/dialogos_qt.h"
 
 namespace {
@@ -13,7 +14,13 @@ namespace {
 int Aplicacion(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zorta"));
-    Instala_Dialogos(std::make_unique<DialogosQt>());
+    auto cajas = std::make_unique<DialogosQt>();
+    cajas->pantalla_solo_rut = [](const QString& curso) {
+        Frm_SoloRrut lista(curso, QApplication::activeWindow());
+        lista.exec();
+        return lista.Rut_Manual;
+    };
+    Instala_Dialogos(std::move(cajas));
     if (!MDIForm_Load()) return 1;
     MdiMain principal;
     principal.show();

@@ -14,6 +14,7 @@ public:
     QString InputBox(const QString&, const QString&, const QString&) override { return {}; }
     QString AbrirArchivo(const QString&, const QString&) override { return {}; }
     QString GuardarArchivo(const QString&, const QString&, const QString&) override { return {}; }
+    QString Frm_SoloRrut(const QString&) override { return {}; }
 };
 
 std::unique_ptr<Dialogos>& instalados() {

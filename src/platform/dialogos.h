@@ -45,6 +45,9 @@ public:
     virtual QString AbrirArchivo(const QString& titulo, const QString& filtro) = 0;
     virtual QString GuardarArchivo(const QString& titulo, const QString& filtro,
                                    const QString& nombre) = 0;
+    // The modal list "Seleccione Rut Alumno" of a course's students: the rut chosen or typed
+    // by the operator (Rut_Manual), "" when none.
+    virtual QString Frm_SoloRrut(const QString& curso) = 0;
 };
 
 // The installed implementation; a silent refusing one until something is installed.

@@ -47,6 +47,12 @@ QString DialogosConsola::AbrirArchivo(const QString& titulo, const QString&) {
     return {};
 }
 
+QString DialogosConsola::Frm_SoloRrut(const QString& curso) {
+    const QString r = textos_.value(QStringLiteral("Seleccione Rut Alumno"));
+    salida_ << "[Seleccione Rut Alumno] " << curso << " -> \"" << r << "\"" << Qt::endl;
+    return r;
+}
+
 QString DialogosConsola::GuardarArchivo(const QString& titulo, const QString&, const QString&) {
     salida_ << "[" << titulo << "] (sin archivo)" << Qt::endl;
     return {};

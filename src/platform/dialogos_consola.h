@@ -21,6 +21,7 @@ public:
     QString InputBox(const QString& pregunta, const QString& titulo, const QString& defecto) override;
     QString AbrirArchivo(const QString& titulo, const QString& filtro) override;
     QString GuardarArchivo(const QString& titulo, const QString& filtro, const QString& nombre) override;
+    QString Frm_SoloRrut(const QString& curso) override;
 
 private:
     QTextStream& salida_;

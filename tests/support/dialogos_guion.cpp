@@ -15,6 +15,10 @@ void DialogosGuion::EsperaArchivo(const QString& ruta) {
     guion_.push_back({QStringLiteral("Archivo"), {}, vbOK, ruta});
 }
 
+void DialogosGuion::EsperaSoloRut(const QString& rut) {
+    guion_.push_back({QStringLiteral("Frm_SoloRrut"), QStringLiteral("Seleccione Rut Alumno"), vbOK, rut});
+}
+
 DialogosGuion::Paso DialogosGuion::Siguiente(const Caja& caja) {
     cajas.push_back(caja);
     if (guion_.empty()) {
@@ -45,6 +49,10 @@ QString DialogosGuion::AbrirArchivo(const QString& titulo, const QString&) {
 
 QString DialogosGuion::GuardarArchivo(const QString& titulo, const QString&, const QString&) {
     return Siguiente({QStringLiteral("GuardarArchivo"), titulo, {}, 0}).texto;
+}
+
+QString DialogosGuion::Frm_SoloRrut(const QString& curso) {
+    return Siguiente({QStringLiteral("Frm_SoloRrut"), QStringLiteral("Seleccione Rut Alumno"), curso, 0}).texto;
 }
 
 DialogosGuion& Instala_Guion() {

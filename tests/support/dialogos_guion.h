@@ -22,6 +22,8 @@ public:
     void EsperaEntrada(const QString& titulo, const QString& texto);
     // The next box must be a file dialog; it is answered `ruta`.
     void EsperaArchivo(const QString& ruta);
+    // The next box must be the student list; it is answered `rut` (Rut_Manual).
+    void EsperaSoloRut(const QString& rut);
 
     // True when every scripted answer has been used.
     bool Agotado() const { return guion_.empty(); }
@@ -31,6 +33,7 @@ public:
     QString InputBox(const QString& pregunta, const QString& titulo, const QString& defecto) override;
     QString AbrirArchivo(const QString& titulo, const QString& filtro) override;
     QString GuardarArchivo(const QString& titulo, const QString& filtro, const QString& nombre) override;
+    QString Frm_SoloRrut(const QString& curso) override;
 
 private:
     struct Paso {

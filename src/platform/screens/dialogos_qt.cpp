@@ -74,6 +74,10 @@ QString DialogosQt::AbrirArchivo(const QString& titulo, const QString& filtro) {
     return QFileDialog::getOpenFileName(QApplication::activeWindow(), titulo, {}, filtro);
 }
 
+QString DialogosQt::Frm_SoloRrut(const QString& curso) {
+    return pantalla_solo_rut ? pantalla_solo_rut(curso) : QString();
+}
+
 QString DialogosQt::GuardarArchivo(const QString& titulo, const QString& filtro, const QString& nombre) {
     return QFileDialog::getSaveFileName(QApplication::activeWindow(), titulo, nombre, filtro);
 }
