@@ -3,7 +3,7 @@
 # missing ones, so a second run does nothing.
 set -euo pipefail
 paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite qt6-charts-dev
-          libxlsxwriter-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
+          libxlsxwriter-dev libzip-dev libfreexl-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
           xvfb xauth x11-apps imagemagick openbox fonts-dejavu-core)
 faltan=()
 for p in "${paquetes[@]}"; do

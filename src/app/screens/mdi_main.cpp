@@ -9,6 +9,10 @@
 
 #include "app/menu_principal.h"
 #include "grading/screens/frm_correc_pru.h"
+#include "masters/screens/frm_alumnos.h"
+#include "masters/screens/frm_asignatura.h"
+#include "masters/screens/frm_cursos.h"
+#include "masters/screens/frm_profesores.h"
 #include "platform/dialogos.h"
 
 MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this)) {
@@ -17,6 +21,10 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     area_->setBackground(QColor(0x2f, 0x4f, 0x6f));
     setCentralWidget(area_);
     fabricas_[QStringLiteral("frmCorrecPru")] = [] { return new frmCorrecPru; };
+    fabricas_[QStringLiteral("FrmAlumnos")] = [] { return new FrmAlumnos; };
+    fabricas_[QStringLiteral("FrmProfesores")] = [] { return new FrmProfesores; };
+    fabricas_[QStringLiteral("FrmCursos")] = [] { return new FrmCursos; };
+    fabricas_[QStringLiteral("FrmAsignatura")] = [] { return new FrmAsignatura; };
     Construye_Menu();
     resize(1200, 800);
 }

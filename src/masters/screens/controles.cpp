@@ -1,0 +1,107 @@
+// Small pieces the list and settings screens are built from.
+#include "masters/screens/controles.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include "platform/dialogos.h"
+#include "platform/grilla.h"
+#include "platform/screens/grilla_modelo.h"
+
+namespace {
+
+class FiltroTeclas : public QObject {
+  public:
+    FiltroTeclas(QObject* padre, std::function<int(int)> filtro)
+        : QObject(padre), filtro_(std::move(filtro)) {}
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() != QEvent::KeyPress) return QObject::eventFilter(objeto, evento);
+        const int codigo = Codigo(*static_cast<QKeyEvent*>(evento));
+        if (codigo == 0) return false;  // not a character key: arrows, tab, delete pass
+        const int queda = filtro_(codigo);
+        if (queda == codigo) return false;
+        if (queda == 13) QApplication::beep();
+        return true;  // Enter does nothing in a single-line box
+    }
+
+  private:
+    static int Codigo(const QKeyEvent& tecla) {
+        if (tecla.key() == Qt::Key_Backspace) return 8;
+        if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter) return 13;
+        return tecla.text().isEmpty() ? 0 : tecla.text().at(0).unicode();
+    }
+    std::function<int(int)> filtro_;
+};
+
+class FiltroFoco : public QObject {
+  public:
+    FiltroFoco(QObject* padre, std::function<void()> accion)
+        : QObject(padre), accion_(std::move(accion)) {}
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() == QEvent::FocusOut) Ejecutar_Comando(accion_);
+        return QObject::eventFilter(objeto, evento);
+    }
+
+  private:
+    std::function<void()> accion_;
+};
+
+}  // namespace
+
+QPushButton* Boton(QWidget* padre, const QString& nombre, const QString& texto,
+                   std::function<void()> comando) {
+    auto* boton = new QPushButton(texto, padre);
+    boton->setObjectName(nombre);
+    QObject::connect(boton, &QPushButton::clicked, padre,
+                     [c = std::move(comando)] { Ejecutar_Comando(c); });
+    return boton;
+}
+
+QLineEdit* Caja(QWidget* padre, const QString& nombre) {
+    auto* caja = new QLineEdit(padre);
+    caja->setObjectName(nombre);
+    return caja;
+}
+
+void Filtra_Teclas(QLineEdit* caja, std::function<int(int)> filtro) {
+    caja->installEventFilter(new FiltroTeclas(caja, std::move(filtro)));
+}
+
+void Mayusculas(QLineEdit* caja) {
+    QObject::connect(caja, &QLineEdit::textEdited, caja, [caja](const QString& texto) {
+        const int cursor = caja->cursorPosition();
+        caja->setText(texto.toUpper());
+        caja->setCursorPosition(cursor);
+    });
+}
+
+void Al_Salir(QLineEdit* caja, std::function<void()> accion) {
+    caja->installEventFilter(new FiltroFoco(caja, std::move(accion)));
+}
+
+QTableView* Vista_Grilla(QWidget* padre, const QString& nombre, Grilla& grilla,
+                         std::function<void(int)> al_pulsar) {
+    auto* vista = new QTableView(padre);
+    vista->setObjectName(nombre);
+    vista->setModel(new GrillaModelo(grilla, vista));
+    vista->setSelectionBehavior(QAbstractItemView::SelectRows);
+    vista->setSelectionMode(QAbstractItemView::SingleSelection);
+    vista->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    vista->verticalHeader()->setDefaultSectionSize(22);
+    QObject::connect(vista, &QTableView::clicked, padre, [al_pulsar](const QModelIndex& i) {
+        Ejecutar_Comando([&] { al_pulsar(i.row() + 1); });
+    });
+    return vista;
+}
+
+int Busca_Item(const QComboBox& lista, const QString& texto) {
+    for (int i = 0; i < lista.count(); ++i)
+        if (lista.itemText(i).contains(texto)) return i;
+    return -1;
+}
