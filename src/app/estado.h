@@ -47,6 +47,11 @@ struct Estado {
     bool Pantalla_Valida = false;
     bool Analisis_Valido = false;
 
+    // A result row being amended from the test list.
+    bool Rut_Malo = false;
+    bool Forma_Mala = false;
+    int Fila_Enmienda = -1;
+
     // Settings read at start-up.
     int16_t Nota_Minima_Actual = 0;
     // Gray threshold of the pixel test; the reading run sets 130 and 180 by itself.
