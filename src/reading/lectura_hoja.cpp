@@ -15,11 +15,6 @@ bool Distancia_Valida(const Marcas& m) {
     return m.distancia() >= kDistanciaMinima && m.distancia() <= kDistanciaMaxima;
 }
 
-bool Falla(ResultadoHoja& r, Fallo fallo) {
-    r.fallo = fallo;
-    return false;
-}
-
 void Pon_Nivel_Gris(HojaEnLectura& hoja, int16_t nivel) {
     hoja.Nivel_Gris = nivel;
     estado().Nivel_Gris = nivel;
@@ -35,56 +30,78 @@ bool Busca_Fila(HojaEnLectura& hoja, int x, int y, int reintento_x, Marcas& m) {
     return !hoja.Error_Lectura && m.X + m.X1 != 0;
 }
 
-// The fourth mark, a left one only; only its y is kept. False is failure A.
-bool Busca_Cuarta(HojaEnLectura& hoja, int x, int& y) {
-    Marcas m = Version_Nueva_Lectura_Cuadros(hoja, x, x, 1540, 1540, 1, 99);
-    if (hoja.Error_Lectura) return false;
-    if (m.X < 1) m = Version_Nueva_Lectura_Cuadros(hoja, x, x, 1540, 1540, 1, 99);
-    if (hoja.Error_Lectura || m.X < 1) return false;
-    y = m.Y;
-    return true;
+}  // namespace
+
+LecturaHoja::LecturaHoja(const Imagen& imagen, const OpcionesLectura& opciones)
+    : hoja_(imagen), opciones_(opciones) {
+    hoja_.Alternativas_Actual = opciones.alternativas;
+    Pon_Nivel_Gris(hoja_, 130);
 }
 
-// Finds the four rows of marks; sets the failure kind when a row is missing or out of size.
-bool Registra(HojaEnLectura& hoja, ResultadoHoja& r) {
+bool LecturaHoja::Falla(Fallo fallo) {
+    r.fallo = fallo;
+    return false;
+}
+
+bool LecturaHoja::Registra(const FilaHallada& hallada) {
+    auto avisa = [&](int fila, const Marcas& m) {
+        if (hallada) hallada(fila, m);
+    };
     auto& [f1, f2, f3] = r.filas;
-    f1 = Version_Nueva_Lectura_Cuadros(hoja, 10, 125, 10, 140, 0, 0);
-    if (hoja.Error_Lectura) return Falla(r, Fallo::A);
+    f1 = Version_Nueva_Lectura_Cuadros(hoja_, 10, 125, 10, 140, 0, 0);
+    if (hoja_.Error_Lectura) return Falla(Fallo::A);
     r.distancia = f1.distancia();
-    hoja.Primer_Y = f1.Y;
-    r.marcas_grandes = Verifico_Nuevo_Formato_Guia_Medial(hoja, 300, f1.X - 20);
-    if (!Distancia_Valida(f1)) return Falla(r, Fallo::B);
-    if (!Busca_Fila(hoja, f1.X, 610, 40, f2)) return Falla(r, Fallo::A);
-    if (!Distancia_Valida(f2)) return Falla(r, Fallo::B);
-    if (!Busca_Fila(hoja, f2.X, 1072, 0, f3)) return Falla(r, Fallo::A);
-    if (!Distancia_Valida(f3)) return Falla(r, Fallo::B);
-    if (!Busca_Cuarta(hoja, f3.X, r.cuarta_y)) return Falla(r, Fallo::A);
+    hoja_.Primer_Y = f1.Y;
+    r.marcas_grandes = Verifico_Nuevo_Formato_Guia_Medial(hoja_, 300, f1.X - 20);
+    avisa(1, f1);
+    if (!Distancia_Valida(f1)) return Falla(Fallo::B);
+    if (!Busca_Fila(hoja_, f1.X, 610, 40, f2)) return Falla(Fallo::A);
+    avisa(2, f2);
+    if (!Distancia_Valida(f2)) return Falla(Fallo::B);
+    if (!Busca_Fila(hoja_, f2.X, 1072, 0, f3)) return Falla(Fallo::A);
+    avisa(3, f3);
+    if (!Distancia_Valida(f3)) return Falla(Fallo::B);
+    // The fourth mark, a left one only; only its y is kept.
+    Marcas m = Version_Nueva_Lectura_Cuadros(hoja_, f3.X, f3.X, 1540, 1540, 1, 99);
+    if (hoja_.Error_Lectura) return r.sin_aviso = true, Falla(Fallo::A);
+    if (m.X < 1) m = Version_Nueva_Lectura_Cuadros(hoja_, f3.X, f3.X, 1540, 1540, 1, 99);
+    if (hoja_.Error_Lectura) return r.sin_aviso = true, Falla(Fallo::A);
+    if (m.X < 1) return Falla(Fallo::A);
+    avisa(4, m);
+    r.cuarta_y = m.Y;
     Verifica_Diferencia_Cuadros_Derecha(f1.X1, f2.X1, f3.X1);
     return true;
 }
 
-// Form, rut and answers at gray 180; false with failure C when a reader fails.
-bool Decodifica(HojaEnLectura& hoja, const OpcionesLectura& o, ResultadoHoja& r) {
-    const auto& [f1, f2, f3] = r.filas;
-    Pon_Nivel_Gris(hoja, 180);
-    r.forma = Busca_Forma(hoja, f1);
-    if (hoja.Error_Lectura) return false;
-    if (o.lee_rut) {
-        r.rut = Lee_Solo_Rut_New_Ver(hoja, f1);
-        if (hoja.Error_Lectura) return false;
-        r.rut_leido = true;
-    }
-    const int limite = std::min(o.preguntas, r.marcas_grandes ? 18 : 50);
-    lee_alternativas_version_2(hoja, f2, 1, limite, 2, r.marcas_grandes,
-                               r.marcas_grandes ? 1823 : 0, r.respuestas);
-    if (hoja.Error_Lectura) return false;
-    // Questions 19 and up of a large-mark sheet stay unread: there is no second call.
-    if (!r.marcas_grandes && o.preguntas >= 51)
-        lee_alternativas_version_2(hoja, f3, 51, o.preguntas, 3, false, 0, r.respuestas);
-    return !hoja.Error_Lectura;
+bool LecturaHoja::Lee_Forma() {
+    Pon_Nivel_Gris(hoja_, 180);
+    r.forma = Busca_Forma(hoja_, r.filas[0]);
+    return !hoja_.Error_Lectura || Falla(Fallo::C);
 }
 
-}  // namespace
+bool LecturaHoja::Lee_Rut() {
+    r.rut = Lee_Solo_Rut_New_Ver(hoja_, r.filas[0]);
+    if (hoja_.Error_Lectura) return Falla(Fallo::C);
+    r.rut_leido = true;
+    return true;
+}
+
+int LecturaHoja::Limite_Respuestas() const {
+    return std::min(opciones_.preguntas, r.marcas_grandes ? 18 : 50);
+}
+
+bool LecturaHoja::Lee_Respuestas() {
+    lee_alternativas_version_2(hoja_, r.filas[1], 1, Limite_Respuestas(), 2, r.marcas_grandes,
+                               r.marcas_grandes ? 1823 : 0, r.respuestas);
+    return !hoja_.Error_Lectura || Falla(Fallo::C);
+}
+
+bool LecturaHoja::Lee_Respuestas_Tercera() {
+    if (r.marcas_grandes || opciones_.preguntas < 51) return true;
+    lee_alternativas_version_2(hoja_, r.filas[2], 51, opciones_.preguntas, 3, false, 0,
+                               r.respuestas);
+    return !hoja_.Error_Lectura || Falla(Fallo::C);
+}
 
 Imagen Abre_Hoja(const QString& ruta) {
     constexpr int kLadoMinimo = 100;
@@ -98,10 +115,8 @@ Imagen Abre_Hoja(const QString& ruta) {
 }
 
 ResultadoHoja Lee_Hoja(const Imagen& imagen, const OpcionesLectura& opciones) {
-    HojaEnLectura hoja(imagen);
-    hoja.Alternativas_Actual = opciones.alternativas;
-    Pon_Nivel_Gris(hoja, 130);
-    ResultadoHoja r;
-    if (Registra(hoja, r) && !Decodifica(hoja, opciones, r)) r.fallo = Fallo::C;
-    return r;
+    LecturaHoja l(imagen, opciones);
+    if (l.Registra() && l.Lee_Forma() && (!opciones.lee_rut || l.Lee_Rut()) && l.Lee_Respuestas())
+        l.Lee_Respuestas_Tercera();
+    return l.r;
 }
