@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QMenuBar>
 
+#include "app/estado.h"
 #include "app/menu_principal.h"
 #include "app/screens/mdi_main.h"
 #include "support/base_temporal.h"
@@ -69,5 +70,65 @@ TEST_F(Principal, TestListIsOneInstanceBroughtToTheFront) {
     EXPECT_EQ(primera->windowTitle(), "Resumen Pruebas Ingresadas.");
     m.Accion("mnu_enc_abierta")->trigger();
     EXPECT_EQ(m.Muestra_Pantalla("frmCorrecPru"), primera);
-    EXPECT_FALSE(m.Accion("mnu_alum")->isEnabled()) << "a screen not built yet is present and disabled";
+    EXPECT_FALSE(m.Accion("Mnu_Analisis_Curso")->isEnabled()) << "a screen not built yet is present and disabled";
+}
+
+TEST_F(Principal, EachCommandSetsItsFlagsBeforeItsScreen) {
+    MdiMain m;
+    struct Caso {
+        const char* control;
+        bool seteo, corrige, agrega;
+    };
+    for (const Caso& c : {Caso{"nme_nue_correc", false, true, false}, Caso{"mnu_agre_actual", false, true, true}}) {
+        estado().Seteo_Hoja = true;
+        m.Ejecuta(c.control);
+        EXPECT_EQ(estado().Seteo_Hoja, c.seteo) << c.control;
+        EXPECT_EQ(estado().Corrige_Pruebas, c.corrige) << c.control;
+        EXPECT_EQ(estado().Agrega_Actual, c.agrega) << c.control;
+    }
+    m.Ejecuta("MnuSeteo");
+    EXPECT_TRUE(estado().Seteo_Hoja);
+    EXPECT_TRUE(estado().Agrega_Actual) << "left as it was";
+    m.Ejecuta("Mnu_Habilidades");
+    EXPECT_EQ(estado().Tipo_Analisis, "HABILIDAD");
+    m.Ejecuta("Mnu_Eje");
+    EXPECT_EQ(estado().Tipo_Analisis, "EJE TEMATICO");
+    m.Ejecuta("Mnu_Eliminar");
+    EXPECT_EQ(estado().Modo_Correccion, "Eliminacion");
+    m.Ejecuta("Mnu_Correccion");
+    EXPECT_EQ(estado().Modo_Correccion, "Modificacion");
+}
+
+TEST_F(Principal, ScoreTableFlagsFollowTheLastCommand) {
+    MdiMain m;
+    const auto banderas = [] {
+        const Estado& e = estado();
+        return QString("%1%2%3%4").arg(e.Mant_PSU).arg(e.Mant_SIMCE).arg(e.Puntajes_PSU).arg(e.Puntajes_SIMCE);
+    };
+    m.Ejecuta("MnuSimce1");
+    EXPECT_EQ(banderas(), "0100");
+    m.Ejecuta("Mnu_Mant_PSU");
+    EXPECT_EQ(banderas(), "1100") << "both set: the screen tests Mant_PSU first";
+    m.Ejecuta("mnu_psu");
+    EXPECT_EQ(banderas(), "1100") << "the hidden entry keeps the flags";
+    m.Ejecuta("MMnu_Mant_PSu");
+    EXPECT_EQ(banderas(), "0010");
+    m.Ejecuta("MnuPuntajesSIMCE");
+    EXPECT_EQ(banderas(), "0101");
+}
+
+TEST_F(Principal, WebLinksAndSharedScreens) {
+    for (const char* c : {"Mnu_Corrector", "Mnu_hojas", "Mnu_Funciona", "Mnu_Corregir", "Mnu_Imprime_Hoja"})
+        EXPECT_TRUE(MdiMain::Enlace(c).startsWith("https://")) << c;
+    EXPECT_TRUE(MdiMain::Enlace("mnu_alum").isEmpty());
+    QMap<QString, QString> pantalla;
+    for (const EntradaMenu& e : Menu_Principal()) pantalla[e.control] = e.pantalla;
+    EXPECT_EQ(pantalla["Mnu_Ejes"], pantalla["mnu_eje_tematico"]);
+    EXPECT_EQ(pantalla["Mnu_Analisis_Pregunta"], pantalla["Mnu_Por_pregunta"]);
+    MdiMain m;
+    m.Ejecuta("mnu_acer");
+    ASSERT_NE(m.Pantalla("ACERCA_de"), nullptr);
+    EXPECT_EQ(m.Pantalla("ACERCA_de")->windowTitle(), "Acerca de...");
+    m.Descarga("ACERCA_de");
+    EXPECT_EQ(m.Pantalla("ACERCA_de"), nullptr);
 }

@@ -30,6 +30,8 @@ public:
     static QString Enlace(const QString& control);
     QAction* Accion(const QString& control) const { return acciones_.value(control); }
 
+    // Runs the command of a menu entry: its flags, then its screen.
+    void Ejecuta(const QString& control);
     void mnu_salir_Click();
     bool Salio() const { return salio_; }
 
@@ -38,7 +40,6 @@ protected:
 
 private:
     void Construye_Menu();
-    void Ejecuta(const QString& control);
 
     QMdiArea* area_;
     QMap<QString, QAction*> acciones_;
