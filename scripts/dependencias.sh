@@ -1,17 +1,24 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the build, the tests and the headless demo need; only the
-# missing ones, so a second run does nothing.
+# missing ones, so a second run does nothing. Also makes a comma-decimal locale (es_CL) so the
+# tests can show numbers keep their point under it.
 set -euo pipefail
 paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite qt6-charts-dev
           libxlsxwriter-dev libzip-dev libfreexl-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
-          xvfb xauth x11-apps imagemagick openbox fonts-dejavu-core)
+          xvfb xauth x11-apps imagemagick openbox fonts-dejavu-core locales)
+sudo=""
+[ "$(id -u)" -ne 0 ] && sudo="sudo"
 faltan=()
 for p in "${paquetes[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || faltan+=("$p")
 done
-[ ${#faltan[@]} -eq 0 ] && exit 0
-echo "Instalando: ${faltan[*]}"
-sudo=""
-[ "$(id -u)" -ne 0 ] && sudo="sudo"
-$sudo apt-get update -qq
-DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${faltan[@]}" >/dev/null
+if [ ${#faltan[@]} -gt 0 ]; then
+  echo "Instalando: ${faltan[*]}"
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${faltan[@]}" >/dev/null
+fi
+if ! locale -a 2>/dev/null | grep -qi '^es_CL\.utf8$'; then
+  $sudo sed -i 's/^# *\(es_CL\.UTF-8 UTF-8\)/\1/' /etc/locale.gen
+  grep -q '^es_CL.UTF-8 UTF-8' /etc/locale.gen || echo 'es_CL.UTF-8 UTF-8' | $sudo tee -a /etc/locale.gen >/dev/null
+  $sudo locale-gen >/dev/null
+fi
