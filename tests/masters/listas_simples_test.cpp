@@ -125,7 +125,8 @@ TEST_F(Listas, CourseSaveDrawsTheCounterAndReplaceFailsOnTableCurso) {
     guion->Espera("Error de ejecución");
     EXPECT_FALSE(Comando([&] { f.XPButAceptar_Click(); }));
     EXPECT_EQ(guion->cajas[3].texto, "El curso existe en la base de datos, desea reemplazarlo");
-    EXPECT_TRUE(guion->cajas.back().texto.contains("curso")) << guion->cajas.back().texto.toStdString();
+    EXPECT_TRUE(guion->cajas.back().texto.contains("curso"))
+        << guion->cajas.back().texto.toStdString();
     EXPECT_EQ(Filas("select * from CURSOS"), QStringList{"4° MEDIO CIENTÍFICO B|14|1"});
     EXPECT_EQ(Valor("select valor_indice from indice_general where tipo_indice = 'CURSO'").toInt(),
               2);

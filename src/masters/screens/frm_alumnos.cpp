@@ -72,7 +72,7 @@ FrmAlumnos::FrmAlumnos(QWidget* padre) : QWidget(padre) {
                              [this] { close(); }));
     botones->addStretch();
     capa->addLayout(botones, 0, 3, 4, 1);
-    resize(760, 560);
+    resize(900, 560);
     Ejecutar_Comando([this] { Form_Load(); });
 }
 
@@ -80,9 +80,9 @@ void FrmAlumnos::Form_Load() {
     SprAlumnos.FijaCelda(0, 1, QStringLiteral("Rut"));
     SprAlumnos.FijaCelda(0, 2, QStringLiteral("Nombre"));
     SprAlumnos.FijaCelda(0, 3, QStringLiteral("Curso"));
-    const int ancho = fontMetrics().averageCharWidth();
-    vista_->setColumnWidth(0, 10 * ancho + 24);
-    vista_->setColumnWidth(1, 30 * ancho + 24);
+    // Widths of 10 and 30 characters of capitals.
+    vista_->setColumnWidth(0, fontMetrics().horizontalAdvance(QString(10, u'N')) + 12);
+    vista_->setColumnWidth(1, fontMetrics().horizontalAdvance(QString(30, u'N')) + 12);
     vista_->horizontalHeader()->setStretchLastSection(true);
     Carga_Grilla_Alumnos();
     Carga_Cursos();

@@ -101,7 +101,8 @@ Frm_Logros::Frm_Logros(QWidget* padre) : QWidget(padre) {
     botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
                              [this] { close(); }));
     capa->addLayout(botones, fila, 0, 1, 3);
-    resize(460, 320);
+    capa->setRowStretch(fila + 1, 1);
+    resize(460, 300);
     Ejecutar_Comando([this] { Form_Load(); });
 }
 
