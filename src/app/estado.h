@@ -27,6 +27,8 @@ struct Estado {
     QString Curso_Actual;
     QString Tipo_Prueba_Actual;
     QString Rut_Actual;
+    // The letters offered in a key's drop-down cells, tab-separated.
+    QString Lista_Alternativas;
 
     // Copy of a test.
     bool Copia_Activa = false;

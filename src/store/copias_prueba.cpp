@@ -11,7 +11,7 @@ void Copia_Pauta_Prueba(int16_t forma) {
     Recordset rs = b.OpenRecordset(
         QStringLiteral(" select *  From resp_preguntas_pautas  Where idprueba = ?  and forma = ? "
                        "order by pregunta, alternativa"),
-        {estado().Id_Prueba_Actual, forma});
+        {estado().Id_Prueba_Origen, forma});
     for (; !rs.Eof(); rs.MoveNext())
         b.Execute(QStringLiteral(" insert into Resp_preguntas_pautas values (?, ?, ?, ?)"),
                   {estado().Id_Prueba_Copia, rs[1], forma, rs[3]});

@@ -7,7 +7,8 @@
 
 class Grilla;
 
-// Copies the key of one form of the selected test to Id_Prueba_Copia.
+// Copies the key of one form of the test chosen for copying (Id_Prueba_Origen) to
+// Id_Prueba_Copia.
 void Copia_Pauta_Prueba(int16_t forma);
 // Copies the axis and skill of each question of one form of Id_Prueba_Origen to
 // Id_Prueba_Copia, numbering CORRELATIVO on from the highest.

@@ -49,6 +49,7 @@ TEST_F(Contadores, GrayIndexWarnsWithoutItsRow) {
 
 TEST_F(Contadores, CopiesTakeOneFormAndLeaveOthersAlone) {
     estado().Id_Prueba_Actual = estado().Id_Prueba_Origen = 4;
+    estado().Id_Prueba_Actual = 9;  // the copy is current while it is saved
     estado().Id_Prueba_Copia = 9;
     for (int p = 1; p <= 3; ++p) Ejecuta("insert into Resp_preguntas_pautas values (4, ?, 1, ?)", {p, p + 1});
     Ejecuta("insert into NEW_EJE_TEMATICO values (20, 4, 2, 'Álgebra', 'Aplicar', 1, 'GENERAL')");

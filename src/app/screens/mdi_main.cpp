@@ -26,6 +26,11 @@
 #include "masters/screens/frm_tab_eje_tema.h"
 #include "platform/dialogos.h"
 #include "platform/screens/navegacion.h"
+#include "setup/screens/frm_gene_pru.h"
+#include "setup/screens/frm_gene_psu_pru.h"
+#include "setup/screens/frm_gene_simce_pru.h"
+#include "setup/screens/frm_ing_manual.h"
+#include "setup/screens/frm_opc_pautas.h"
 
 MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this)) {
     setObjectName(QStringLiteral("MdiMain"));
@@ -34,6 +39,11 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     setCentralWidget(area_);
     fabricas_[QStringLiteral("frmCorrecPru")] = [] { return new frmCorrecPru; };
     fabricas_[QStringLiteral("ACERCA_de")] = [] { return new ACERCA_de; };
+    fabricas_[QStringLiteral("FrmGenePru")] = [] { return new FrmGenePru; };
+    fabricas_[QStringLiteral("FrmGenePsuPru")] = [] { return new FrmGenePsuPru; };
+    fabricas_[QStringLiteral("FrmGeneSimcePru")] = [] { return new FrmGeneSimcePru; };
+    fabricas_[QStringLiteral("FrmIngManual")] = [] { return new FrmIngManual; };
+    fabricas_[QStringLiteral("FrmOPCPautas")] = [] { return new FrmOPCPautas; };
     modales_[QStringLiteral("FrmModfRut")] = [this]() -> QDialog* {
         auto* lista = qobject_cast<frmCorrecPru*>(Pantalla(QStringLiteral("frmCorrecPru")));
         return new FrmModfRut(lista ? &lista->SprResulprucargada : nullptr, this);
@@ -52,6 +62,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     navegacion().muestra = [this](const QString& n) { return Muestra_Pantalla(n); };
     navegacion().modal = [this](const QString& n) { Muestra_Modal(n); };
     navegacion().descarga = [this](const QString& n) { Descarga(n); };
+    navegacion().abierta = [this](const QString& n) { return Pantalla(n); };
 }
 
 MdiMain::~MdiMain() {

@@ -34,6 +34,8 @@ public:
     void XPButton1_Click();
 
     QLabel* Etiqueta(const QString& nombre) const;
+    // The row of SprPrincipal chosen last, 0 when none.
+    int Fila_Seleccionada() const { return fila_principal_; }
     QPushButton* XPButton1 = nullptr;
 
 private:

@@ -69,6 +69,17 @@ QVariant GrillaModelo::headerData(int seccion, Qt::Orientation orientacion, int 
     return cabeza.isEmpty() ? QString::number(seccion + 1) : cabeza;
 }
 
+Qt::ItemFlags GrillaModelo::flags(const QModelIndex& indice) const {
+    const Qt::ItemFlags f = QAbstractTableModel::flags(indice);
+    return indice.column() + 1 == editable_ ? f | Qt::ItemIsEditable : f;
+}
+
+bool GrillaModelo::setData(const QModelIndex& indice, const QVariant& valor, int rol) {
+    if (rol != Qt::EditRole || indice.column() + 1 != editable_) return false;
+    grilla_.FijaCelda(indice.row() + 1, indice.column() + 1, valor.toString());
+    return true;
+}
+
 void GrillaModelo::AplicaSpans(QTableView& vista) const {
     vista.clearSpans();
     for (const auto& s : grilla_.Spans())

@@ -18,12 +18,18 @@ public:
     int columnCount(const QModelIndex& padre = {}) const override;
     QVariant data(const QModelIndex& indice, int rol) const override;
     QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
+    Qt::ItemFlags flags(const QModelIndex& indice) const override;
+    bool setData(const QModelIndex& indice, const QVariant& valor, int rol) override;
+
+    // Lets the operator type in one column (from 1); the others stay read only.
+    void Editable(int columna) { editable_ = columna; }
 
     // Copies the grid's spans onto a view.
     void AplicaSpans(QTableView& vista) const;
 
 private:
     Grilla& grilla_;
+    int editable_ = 0;
 };
 
 // The colour of the system (red in the low byte) as a Qt colour.

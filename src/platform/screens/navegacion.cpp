@@ -14,6 +14,10 @@ void Muestra_Modal(const QString& nombre) {
     if (navegacion().modal) navegacion().modal(nombre);
 }
 
+QWidget* Pantalla_Abierta(const QString& nombre) {
+    return navegacion().abierta ? navegacion().abierta(nombre) : nullptr;
+}
+
 void Descarga_Pantalla(const QString& nombre) {
     if (navegacion().descarga) navegacion().descarga(nombre);
 }

@@ -14,6 +14,8 @@ struct Navegacion {
     std::function<void(const QString&)> modal;
     // Unloads a screen if it is open.
     std::function<void(const QString&)> descarga;
+    // The screen open under that name, or null.
+    std::function<QWidget*(const QString&)> abierta;
 };
 
 Navegacion& navegacion();
@@ -22,3 +24,4 @@ Navegacion& navegacion();
 QWidget* Muestra_Pantalla(const QString& nombre);
 void Muestra_Modal(const QString& nombre);
 void Descarga_Pantalla(const QString& nombre);
+QWidget* Pantalla_Abierta(const QString& nombre);
