@@ -1,12 +1,13 @@
 // Dispatch of the headless sub-commands.
 #include "cli/cli.h"
 
-#include "cli/hoja.h"
-#include "cli/leer.h"
-
 #include <QTextStream>
 #include <functional>
 #include <map>
+
+#include "cli/corregir.h"
+#include "cli/hoja.h"
+#include "cli/leer.h"
 
 namespace {
 
@@ -17,6 +18,8 @@ struct Subcomando {
 
 const std::map<QString, Subcomando>& subcomandos() {
     static const std::map<QString, Subcomando> tabla = {
+        {QStringLiteral("corregir"),
+         {QStringLiteral("corrige las hojas escaneadas de una prueba y las graba"), Cmd_Corregir}},
         {QStringLiteral("hoja"), {QStringLiteral("dibuja una hoja de respuestas (BMP)"), Cmd_Hoja}},
         {QStringLiteral("leer"), {QStringLiteral("lee hojas escaneadas y escribe JSON"), Cmd_Leer}},
     };

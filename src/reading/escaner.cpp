@@ -1,0 +1,67 @@
+// scaner.ini, the scan folder and the scanning program.
+#include "reading/escaner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTextStream>
+
+#include "app/estado.h"
+#include "platform/base_datos.h"
+#include "platform/error_ejecucion.h"
+
+QString Ruta_Scaner_Ini() {
+    return QFileInfo(estado().BaseDatos->Ruta())
+        .absoluteDir()
+        .filePath(QStringLiteral("scaner.ini"));
+}
+
+QString Linea_Scaner_Ini(int linea) {
+    QFile archivo(Ruta_Scaner_Ini());
+    if (!archivo.open(QIODevice::ReadOnly | QIODevice::Text))
+        throw ErrorEjecucion(
+            QStringLiteral("No se encuentra el archivo de configuración del escáner %1. Debe "
+                           "tener dos líneas: la carpeta de las imágenes y el programa de "
+                           "escaneo.")
+                .arg(QDir::toNativeSeparators(archivo.fileName())));
+    QTextStream entrada(&archivo);
+    QString texto;
+    for (int i = 1; i <= linea; ++i) {
+        if (entrada.atEnd())
+            throw ErrorEjecucion(QStringLiteral("El archivo scaner.ini no tiene la línea %1 (%2).")
+                                     .arg(linea)
+                                     .arg(linea == 1 ? QStringLiteral("carpeta de las imágenes")
+                                                     : QStringLiteral("programa de escaneo")));
+        texto = entrada.readLine();
+    }
+    return texto;
+}
+
+QStringList Archivos_Carpeta(const QString& carpeta) {
+    return QDir(carpeta).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+bool Es_Bitmap(const QString& texto) {
+    return texto.contains(QLatin1String(".bmp"), Qt::CaseInsensitive);
+}
+
+void Elimina_Bitmaps(const QString& carpeta) {
+    const QDir dir(carpeta);
+    for (const QString& nombre : Archivos_Carpeta(carpeta)) {
+        const QString ruta = dir.filePath(nombre);
+        if (Es_Bitmap(ruta) && !QFile::remove(ruta))
+            throw ErrorEjecucion(QStringLiteral("No se pudo eliminar %1 de la carpeta de escaneo.")
+                                     .arg(QDir::toNativeSeparators(ruta)));
+    }
+}
+
+void Inicia_Escaner(const QString& linea_comando) {
+    QStringList partes = QProcess::splitCommand(linea_comando);
+    const QString programa = partes.isEmpty() ? QString() : partes.takeFirst();
+    if (programa.isEmpty() || !QProcess::startDetached(programa, partes))
+        throw ErrorEjecucion(
+            QStringLiteral(
+                "No se pudo iniciar el programa de escaneo \"%1\" (línea 2 de scaner.ini).")
+                .arg(linea_comando));
+}
