@@ -19,7 +19,9 @@ QSqlQuery Prepara(const QSqlDatabase& db, const QString& sql, const QVariantList
     QSqlQuery q(db);
     q.setForwardOnly(true);
     if (!q.prepare(sql)) Falla(q.lastError(), sql);
-    for (const QVariant& p : parametros) q.addBindValue(p);
+    // A text is never NULL: an empty box is stored as an empty text, as the statements write it.
+    for (const QVariant& p : parametros)
+        q.addBindValue(p.typeId() == QMetaType::QString && p.toString().isNull() ? QVariant(QStringLiteral("")) : p);
     if (!q.exec()) Falla(q.lastError(), sql);
     return q;
 }

@@ -38,6 +38,13 @@ TEST_F(BaseDatosPrueba, ValuesAreBoundSoAnApostropheIsStoredAsTyped) {
     EXPECT_THROW(rs[7], ErrorEjecucion);
 }
 
+TEST_F(BaseDatosPrueba, AnEmptyTextIsStoredEmptyNotNull) {
+    base->Execute("insert into alumnos values (?, ?, ?)", {"1-9", QString(), QVariant()});
+    Recordset rs = base->OpenRecordset("select typeof(primerapellido), typeof(curso) from alumnos");
+    EXPECT_EQ(rs[0].toString(), "text");
+    EXPECT_EQ(rs[1].toString(), "null");
+}
+
 TEST_F(BaseDatosPrueba, AddNewOnAnOpenTable) {
     Recordset tabla = base->OpenRecordset("Alumnos");
     tabla.AddNew();

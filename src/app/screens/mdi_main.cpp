@@ -30,6 +30,7 @@
 #include "setup/screens/frm_gene_psu_pru.h"
 #include "setup/screens/frm_gene_simce_pru.h"
 #include "setup/screens/frm_ing_manual.h"
+#include "setup/screens/frm_matriz_resp_correc.h"
 #include "setup/screens/frm_opc_pautas.h"
 
 MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this)) {
@@ -44,6 +45,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmGeneSimcePru")] = [] { return new FrmGeneSimcePru; };
     fabricas_[QStringLiteral("FrmIngManual")] = [] { return new FrmIngManual; };
     fabricas_[QStringLiteral("FrmOPCPautas")] = [] { return new FrmOPCPautas; };
+    fabricas_[QStringLiteral("FrmMatrizRespCorrec")] = [] { return new FrmMatrizRespCorrec; };
     modales_[QStringLiteral("FrmModfRut")] = [this]() -> QDialog* {
         auto* lista = qobject_cast<frmCorrecPru*>(Pantalla(QStringLiteral("frmCorrecPru")));
         return new FrmModfRut(lista ? &lista->SprResulprucargada : nullptr, this);

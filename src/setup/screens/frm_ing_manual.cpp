@@ -6,7 +6,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -16,6 +15,7 @@
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/celda_lista.h"
 #include "platform/screens/grilla_modelo.h"
 #include "platform/screens/navegacion.h"
 
@@ -33,23 +33,6 @@ QMap<QString, QString>& Datos_Ingreso() {
     static QMap<QString, QString> datos;
     return datos;
 }
-
-// Drop-down cells with the letters of Lista_Alternativas.
-class CeldaLetras : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem&, const QModelIndex&) const override {
-        auto* lista = new QComboBox(padre);
-        lista->addItems(estado().Lista_Alternativas.split(QLatin1Char('\t'), Qt::SkipEmptyParts));
-        return lista;
-    }
-    void setEditorData(QWidget* editor, const QModelIndex& i) const override {
-        static_cast<QComboBox*>(editor)->setCurrentText(i.data().toString());
-    }
-    void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override {
-        m->setData(i, static_cast<QComboBox*>(editor)->currentText());
-    }
-};
 
 }  // namespace
 
@@ -88,7 +71,8 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
     auto* modelo = new GrillaModelo(SprAlterPreg, vista);
     modelo->Editable(2);
     vista->setModel(modelo);
-    vista->setItemDelegateForColumn(1, new CeldaLetras(vista));
+    vista->setItemDelegateForColumn(
+        1, new CeldaLista([] { return estado().Lista_Alternativas.split(QLatin1Char('\t'), Qt::SkipEmptyParts); }, vista));
     vista->setEditTriggers(QAbstractItemView::AllEditTriggers);
     vista->verticalHeader()->setVisible(false);
     vista->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
