@@ -26,6 +26,7 @@
 #include "masters/screens/frm_tab_eje_tema.h"
 #include "platform/dialogos.h"
 #include "platform/screens/navegacion.h"
+#include "reading/screens/frm_imagen.h"
 #include "setup/screens/frm_gene_pru.h"
 #include "setup/screens/frm_gene_psu_pru.h"
 #include "setup/screens/frm_gene_simce_pru.h"
@@ -40,6 +41,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     setCentralWidget(area_);
     fabricas_[QStringLiteral("frmCorrecPru")] = [] { return new frmCorrecPru; };
     fabricas_[QStringLiteral("ACERCA_de")] = [] { return new ACERCA_de; };
+    fabricas_[QStringLiteral("FrmImagen")] = [] { return new FrmImagen; };
     fabricas_[QStringLiteral("FrmGenePru")] = [] { return new FrmGenePru; };
     fabricas_[QStringLiteral("FrmGenePsuPru")] = [] { return new FrmGenePsuPru; };
     fabricas_[QStringLiteral("FrmGeneSimcePru")] = [] { return new FrmGeneSimcePru; };
