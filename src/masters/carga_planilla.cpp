@@ -55,3 +55,11 @@ int Reemplaza_Con_Planilla(const QString& ruta, const QString& borra, int limite
         inserta(*base, hoja, fila);
     return fila - 1;
 }
+
+QString Elige_Planilla_Xlsx(const QString& titulo) {
+    return Elige_Planilla(
+        {.filtro = QStringLiteral(" *.xlsx|*.xlsx"),
+         .titulo = titulo,
+         .sin_archivo = QStringLiteral("No se ha seleccionado ningún archivo"),
+         .sin_extension = QStringLiteral("El archivo seleccionado no es extensión .XLSX, verifique")});
+}

@@ -21,6 +21,8 @@ struct EleccionPlanilla {
 // The dialog "Seleccione un archivo"; the information box when nothing is chosen; the stop box
 // when the name, in capitals, holds no ".XLS" anywhere. The path to load, or "".
 QString Elige_Planilla(const EleccionPlanilla& eleccion);
+// The choice of the axes and skills screens: .xlsx files, with their own two refusals.
+QString Elige_Planilla_Xlsx(const QString& titulo);
 
 // A second handle on the store file, its statements in one transaction that is committed when
 // the handle goes, whatever happened: what a load stored before a failure stays stored.

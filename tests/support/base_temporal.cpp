@@ -15,7 +15,9 @@ void BaseTemporal::SetUp() {
 }
 
 void BaseTemporal::TearDown() {
-    EXPECT_TRUE(guion->Agotado()) << "Quedaron respuestas del guion sin usar";
+    if (guion) {
+        EXPECT_TRUE(guion->Agotado()) << "Quedaron respuestas del guion sin usar";
+    }
     estado() = Estado{};
     qunsetenv("ZORTA_DATOS");
 }

@@ -105,3 +105,12 @@ int Busca_Item(const QComboBox& lista, const QString& texto) {
         if (lista.itemText(i).contains(texto)) return i;
     return -1;
 }
+
+QVBoxLayout* Columna_Botones(QWidget* padre, const std::vector<DefBoton>& botones) {
+    auto* columna = new QVBoxLayout;
+    for (const DefBoton& b : botones)
+        columna->addWidget(
+            Boton(padre, QString::fromUtf8(b.nombre), QString::fromUtf8(b.texto), b.comando));
+    columna->addStretch();
+    return columna;
+}

@@ -5,7 +5,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QVBoxLayout>
 #include <functional>
+#include <vector>
 
 class Grilla;
 class QComboBox;
@@ -13,6 +15,14 @@ class QComboBox;
 // A button whose click runs `comando` as one command (Ejecutar_Comando).
 QPushButton* Boton(QWidget* padre, const QString& nombre, const QString& texto,
                    std::function<void()> comando);
+
+struct DefBoton {
+    const char* nombre;
+    const char* texto;
+    std::function<void()> comando;
+};
+// A column of command buttons (each as Boton), kept at the top.
+QVBoxLayout* Columna_Botones(QWidget* padre, const std::vector<DefBoton>& botones);
 
 // A text box with its object name.
 QLineEdit* Caja(QWidget* padre, const QString& nombre);

@@ -59,18 +59,12 @@ FrmAlumnos::FrmAlumnos(QWidget* padre) : QWidget(padre) {
     capa->addWidget(new QLabel(QStringLiteral("Buscar Rut"), this), 3, 0);
     capa->addWidget(txtBuscaRut, 3, 1);
     capa->addWidget(vista_, 4, 0, 1, 4);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButElimina"), QStringLiteral("Eliminar"),
-                             [this] { XPButElimina_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButActualiza"), QStringLiteral("Actualizar"),
-                             [this] { XPButActualiza_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("CmdCarga"), QStringLiteral("Cargar Planilla"),
-                             [this] { CmdCarga_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButElimina", "Eliminar", [this] { XPButElimina_Click(); }},
+                               {"XPButActualiza", "Actualizar", [this] { XPButActualiza_Click(); }},
+                               {"CmdCarga", "Cargar Planilla", [this] { CmdCarga_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 3, 4, 1);
     resize(900, 560);
     Ejecutar_Comando([this] { Form_Load(); });

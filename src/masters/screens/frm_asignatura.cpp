@@ -38,16 +38,11 @@ FrmAsignatura::FrmAsignatura(QWidget* padre) : QWidget(padre) {
     capa->addWidget(new QLabel(QStringLiteral("Asignatura"), this), 0, 0);
     capa->addWidget(TxtNombre, 0, 1);
     capa->addWidget(LstAsiganturas, 1, 0, 1, 3);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Eliminar"),
-                             [this] { XPButton1_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("CmdCarga"), QStringLiteral("Cargar Planilla"),
-                             [this] { CmdCarga_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButton1", "Eliminar", [this] { XPButton1_Click(); }},
+                               {"CmdCarga", "Cargar Planilla", [this] { CmdCarga_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 2, 2, 1);
     resize(520, 420);
     Ejecutar_Comando([this] { Carga_Asignaturas(); });

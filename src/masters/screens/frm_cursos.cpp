@@ -46,14 +46,10 @@ FrmCursos::FrmCursos(QWidget* padre) : QWidget(padre) {
     capa->addWidget(TxtNivel, 1, 1);
     capa->addWidget(CboNivel, 2, 1);
     capa->addWidget(LstCursos, 3, 0, 1, 3);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Eliminar"),
-                             [this] { XPButton1_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButton1", "Eliminar", [this] { XPButton1_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 2, 3, 1);
     resize(520, 440);
     Ejecutar_Comando([this] { Carga_Curso(); });

@@ -45,16 +45,11 @@ FrmHabilidad::FrmHabilidad(QWidget* padre) : QWidget(padre) {
     capa->addWidget(new QLabel(QStringLiteral("Código"), this), 2, 0);
     capa->addWidget(TxtCodigo, 2, 1);
     capa->addWidget(vista, 3, 0, 1, 3);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Eliminar"),
-                             [this] { XPButton1_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("CmdCarga"), QStringLiteral("Cargar Planilla"),
-                             [this] { CmdCarga_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButton1", "Eliminar", [this] { XPButton1_Click(); }},
+                               {"CmdCarga", "Cargar Planilla", [this] { CmdCarga_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 2, 3, 1);
     resize(700, 520);
     Limpia_Campos();
@@ -114,12 +109,7 @@ void FrmHabilidad::XPButton1_Click() {
 }
 
 void FrmHabilidad::CmdCarga_Click() {
-    const QString ruta =
-        Elige_Planilla({.filtro = QStringLiteral(" *.xlsx|*.xlsx"),
-                        .titulo = kTitulo,
-                        .sin_archivo = QStringLiteral("No se ha seleccionado ningún archivo"),
-                        .sin_extension = QStringLiteral(
-                            "El archivo seleccionado no es extensión .XLSX, verifique")});
+    const QString ruta = Elige_Planilla_Xlsx(kTitulo);
     if (!ruta.isEmpty()) Carga_Masiva_Por_Archivo(ruta);
 }
 

@@ -55,12 +55,9 @@ FrmNivelEva::FrmNivelEva(QWidget* padre) : QWidget(padre) {
     notas->addRow(QStringLiteral("Nivel Minimo Nota 4.0"), Cbo_Puntaje_Minimo);
     capa->addLayout(notas, 0, 0);
     capa->addWidget(Arma_Logros(), 1, 0);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 1, 2, 1);
     resize(460, 330);
     Ejecutar_Comando([this] { Form_Load(); });

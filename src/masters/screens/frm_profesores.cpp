@@ -47,16 +47,11 @@ FrmProfesores::FrmProfesores(QWidget* padre) : QWidget(padre) {
     capa->addWidget(new QLabel(QStringLiteral("Número"), this), 1, 0);
     capa->addWidget(TxtRut, 1, 1);
     capa->addWidget(vista, 2, 0, 1, 3);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Eliminar"),
-                             [this] { XPButton1_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("CmdCarga"), QStringLiteral("Cargar Planilla"),
-                             [this] { CmdCarga_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButton1", "Eliminar", [this] { XPButton1_Click(); }},
+                               {"CmdCarga", "Cargar Planilla", [this] { CmdCarga_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 2, 2, 1);
     resize(560, 480);
     Ejecutar_Comando([this] { Carga_Profesores(); });

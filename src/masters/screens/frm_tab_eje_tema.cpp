@@ -57,16 +57,11 @@ FrmTabEjeTema::FrmTabEjeTema(QWidget* padre) : QWidget(padre) {
         capa->addWidget(campos[i], i, 1);
     }
     capa->addWidget(Arma_Grilla(), campos.size(), 0, 1, 3);
-    auto* botones = new QVBoxLayout;
-    botones->addWidget(Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
-                             [this] { XPButAceptar_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Eliminar"),
-                             [this] { XPButton1_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("CmdCarga"), QStringLiteral("Cargar Planilla"),
-                             [this] { CmdCarga_Click(); }));
-    botones->addWidget(Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                             [this] { close(); }));
-    botones->addStretch();
+    auto* botones =
+        Columna_Botones(this, {{"XPButAceptar", "Aceptar", [this] { XPButAceptar_Click(); }},
+                               {"XPButton1", "Eliminar", [this] { XPButton1_Click(); }},
+                               {"CmdCarga", "Cargar Planilla", [this] { CmdCarga_Click(); }},
+                               {"XPButCancelar", "Cancelar", [this] { close(); }}});
     capa->addLayout(botones, 0, 2, campos.size(), 1);
     resize(720, 560);
     Ejecutar_Comando([this] { Carga_Ejes(); });
@@ -153,12 +148,7 @@ void FrmTabEjeTema::XPButton1_Click() {
 }
 
 void FrmTabEjeTema::CmdCarga_Click() {
-    const QString ruta =
-        Elige_Planilla({.filtro = QStringLiteral(" *.xlsx|*.xlsx"),
-                        .titulo = kTitulo,
-                        .sin_archivo = QStringLiteral("No se ha seleccionado ningún archivo"),
-                        .sin_extension = QStringLiteral(
-                            "El archivo seleccionado no es extensión .XLSX, verifique")});
+    const QString ruta = Elige_Planilla_Xlsx(kTitulo);
     if (!ruta.isEmpty()) Carga_Masiva_Por_Archivo(ruta);
 }
 
