@@ -75,6 +75,7 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
         1, new CeldaLista([] { return estado().Lista_Alternativas.split(QLatin1Char('\t'), Qt::SkipEmptyParts); }, vista));
     vista->setEditTriggers(QAbstractItemView::AllEditTriggers);
     vista->verticalHeader()->setVisible(false);
+    vista->verticalHeader()->setDefaultSectionSize(22);
     vista->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     XPButAceptar = Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Grabar"), [this] { XPButAceptar_Click(); });
     auto* cancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"), [this] { close(); });

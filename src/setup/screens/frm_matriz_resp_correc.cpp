@@ -62,8 +62,10 @@ QTableView* FrmMatrizRespCorrec::Vista(Grilla& g, int editable) {
     v->setSelectionBehavior(QAbstractItemView::SelectRows);
     v->setSelectionMode(QAbstractItemView::ExtendedSelection);
     v->verticalHeader()->setVisible(false);
+    v->verticalHeader()->setDefaultSectionSize(22);
     v->horizontalHeader()->setStretchLastSection(true);
     v->setColumnWidth(0, 70);
+    v->setMinimumWidth(editable ? 170 : 280);
     return v;
 }
 
@@ -81,6 +83,7 @@ void FrmMatrizRespCorrec::Construye() {
     TxtEje1->setReadOnly(true);
     Txt_EjeActual->setReadOnly(true);
     QTableView* respuestas = Vista(vSMatzRespCorrec, 2);
+    respuestas->setMinimumWidth(170);
     // A question is taken out of the key with "X".
     respuestas->setItemDelegateForColumn(
         1, new CeldaLista([] { return QStringList{"A", "B", "C", "D", "E", "X"}; }, respuestas));
@@ -107,7 +110,10 @@ void FrmMatrizRespCorrec::Construye() {
     grillas->addWidget(respuestas, 2);
     grillas->addWidget(ejes, 3);
     grillas->addWidget(habilidades, 3);
-    grillas->addLayout(eje);
+    auto* controles = new QWidget(this);
+    controles->setLayout(eje);
+    controles->setMaximumWidth(440);
+    grillas->addWidget(controles);
     auto* capa = new QVBoxLayout(this);
     capa->addLayout(arriba);
     capa->addLayout(grillas, 1);
@@ -126,7 +132,7 @@ void FrmMatrizRespCorrec::Construye() {
         Txt_EjeActual->setText(vSPregObjet.Celda(i.row() + 1, 2));
         if (filas(habilidades).size() > 1) Ejecutar_Comando([&] { vSPregObjet_Seleccion(filas(habilidades)); });
     });
-    resize(1180, 620);
+    resize(1240, 640);
 }
 
 void FrmMatrizRespCorrec::Form_Load() {
