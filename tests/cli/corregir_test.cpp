@@ -1,0 +1,149 @@
+// `zorta corregir` as a child process on a real store: its policy and summary, and a run
+// killed halfway and run again, which must end with every sheet stored once and none left.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include "app/estado.h"
+#include "platform/base_datos.h"
+#include "reading/generador_hoja.h"
+#include "support/base_temporal.h"
+
+namespace {
+
+const char* const kLetras = "ABCDEABCDE";
+
+QString Rut_Con_Digito(int cuerpo) {
+    const QString d = QString::number(cuerpo);
+    int suma = 0, factor = 2;
+    for (int i = d.size() - 1; i >= 0; --i, factor = factor == 7 ? 2 : factor + 1)
+        suma += d[i].digitValue() * factor;
+    const int r = 11 - suma % 11;
+    return d + QLatin1Char('-') +
+           (r == 10   ? QStringLiteral("K")
+            : r == 11 ? QStringLiteral("0")
+                      : QString::number(r));
+}
+
+class ZortaCorregir : public BaseTemporal {
+  public:
+    void SetUp() override {
+        BaseTemporal::SetUp();
+        ASSERT_TRUE(Arranca());
+        escaneo = Ruta("escaneo");
+        QDir().mkpath(escaneo);
+        QFile ini(Ruta("scaner.ini"));
+        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+        ini.write((escaneo + "\ntrue\n").toUtf8());
+        Ejecuta(
+            "insert into prueba_rj values (7, 'Historia', 'GENERAL', 'Ana Rojas', 'Historia', "
+            "'1A', 1, "
+            "'02-03-2026', 10, 0, 5, 'S', 1)");
+        for (int i = 0; i < 10; ++i)
+            Ejecuta("insert into Resp_preguntas_pautas values (7, ?, 1, ?)",
+                    {i + 1, kLetras[i] - 'A' + 1});
+    }
+    void Ejecuta(const QString& sql, const QVariantList& p = {}) {
+        estado().BaseDatos->Execute(sql, p);
+    }
+    // A student and a 1-bit sheet of theirs; ruts ending in K are skipped (not read at 852).
+    QString Alumno_Con_Hoja(int n) {
+        QString rut;
+        for (int cuerpo = 10000000 + n * 13;; ++cuerpo)
+            if (!(rut = Rut_Con_Digito(cuerpo)).endsWith('K')) break;
+        Ejecuta("insert or ignore into ALUMNOS values (?, 'Alumno', '1A', '')", {rut});
+        DisenoHoja d;
+        d.formas = {1};
+        d.rut = QString(rut).remove('-');
+        for (int q = 0; q < 10; ++q) d.respuestas.push_back({q + 1, (q + n) % 5 + 1});
+        Dibuja_Hoja(d).Guarda_Bmp(
+            QDir(escaneo).filePath(QStringLiteral("h%1.bmp").arg(n, 3, 10, QChar('0'))), 1);
+        return rut;
+    }
+    QProcess* Zorta(const QStringList& args) {
+        auto* p = new QProcess;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("ZORTA_DATOS", carpeta.path());
+        p->setProcessEnvironment(env);
+        p->start(ZORTA_EJECUTABLE, QStringList{"corregir"} + args);
+        procesos.emplace_back(p);
+        return p;
+    }
+    int Termina(QProcess* p) {
+        EXPECT_TRUE(p->waitForFinished(120000));
+        salida = QString::fromUtf8(p->readAllStandardOutput());
+        return p->exitCode();
+    }
+    QStringList En_Carpeta() {
+        return QDir(escaneo).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    }
+
+    QString escaneo, salida;
+    std::vector<std::unique_ptr<QProcess>> procesos;
+};
+
+}  // namespace
+
+TEST_F(ZortaCorregir, PrintsEveryBoxAndASummary) {
+    const QString rut = Alumno_Con_Hoja(1);
+    DisenoHoja sin_registro;
+    sin_registro.filas_marcas = 1;
+    Dibuja_Hoja(sin_registro).Guarda_Bmp(QDir(escaneo).filePath("x.bmp"), 1);
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0);
+    EXPECT_TRUE(salida.contains(
+        "[Corrector ZORTA] La hoja esta fuera de los margenes maximos permitidos para la "
+        "lectura. / La prueba x.bmp sera eliminada"))
+        << salida.toStdString();
+    EXPECT_TRUE(salida.contains("[Fin Coreccion] Se han Corregido la cantidad de 1 pruebas"));
+    EXPECT_TRUE(salida.endsWith("Hojas leídas: 2, guardadas: 1, fallidas: 1\n"))
+        << salida.toStdString();
+    EXPECT_EQ(En_Carpeta(), QStringList{"no_guardadas"}) << "what was not stored is kept aside";
+    EXPECT_TRUE(QFile::exists(QDir(escaneo).filePath("no_guardadas/x.bmp")));
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj where rut = ?", {rut}).toInt(), 1);
+
+    // Read again: the replace question is answered OK, so the sheet replaces itself.
+    Alumno_Con_Hoja(1);
+    QDir(escaneo + "/no_guardadas").removeRecursively();
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7", "--carpeta", escaneo})), 0);
+    EXPECT_TRUE(salida.contains("[Corrección de Pruebas] El rut " + rut +
+                                " ya existe en la Base de Datos, desea reemplazarlo -> Aceptar"));
+    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), 10);
+}
+
+TEST_F(ZortaCorregir, ArgumentsAndExitStatus) {
+    EXPECT_EQ(Termina(Zorta({"--help"})), 0);
+    EXPECT_TRUE(salida.startsWith("Uso: zorta corregir --prueba N"));
+    EXPECT_EQ(Termina(Zorta({})), 2);
+    EXPECT_EQ(Termina(Zorta({"--prueba", "x"})), 2);
+    EXPECT_EQ(Termina(Zorta({"--prueba", "9"})), 1) << "no such test";
+    QFile::remove(Ruta("scaner.ini"));
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 1);
+    EXPECT_TRUE(salida.contains(
+        "[Error de ejecución] No se encuentra el archivo de configuración del escáner"));
+}
+
+TEST_F(ZortaCorregir, KilledHalfwayAndRunAgainStoresEverySheetOnce) {
+    constexpr int kHojas = 100;
+    for (int n = 0; n < kHojas; ++n) Alumno_Con_Hoja(n);
+    QProcess* primera = Zorta({"--prueba", "7"});
+    QByteArray visto;
+    while (!visto.contains("Hoja 20 de") && primera->waitForReadyRead(60000))
+        visto += primera->readAllStandardOutput();
+    primera->kill();
+    primera->waitForFinished();
+    const int quedan = En_Carpeta().size();
+    EXPECT_GT(quedan, 0) << "killed before the end";
+    EXPECT_LT(quedan, kHojas);
+
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0) << salida.toStdString();
+    EXPECT_TRUE(En_Carpeta().isEmpty());
+    EXPECT_EQ(Valor("select count(distinct rut_alumno) from respuesta_alumnos_por_rut").toInt(),
+              kHojas);
+    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), kHojas * 10)
+        << "none twice";
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), kHojas);
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj where Buenas + Malas <> 10").toInt(),
+              0);
+}
