@@ -367,6 +367,8 @@ TEST_F(Mensajes, KeyRunRefusalsAndEnds) {
          {},
          0,
          1},
+        {"fallo A: se borran las pautas y la hoja queda", 1, {{"", -1}}, true, {kFalloA}, {}, 0, 1},
+        {"fallo B con Grabar Matriz: igual", 1, {{kLetras, 900}}, true, {kFalloB}, {}, 0, 1},
         {"dos formas, una imagen",
          2,
          {{kLetras, 1}},
@@ -385,9 +387,15 @@ TEST_F(Mensajes, KeyRunRefusalsAndEnds) {
         if (caso.pauta_previa) Pauta(1, kLetras);
         estado().Lee_Pauta = true;
         estado().Corrige_Pruebas = false;
-        for (size_t i = 0; i < caso.hojas.size(); ++i)
-            Hoja(QStringLiteral("p%1.bmp").arg(i),
-                 Hoja_Alumno(caso.hojas[i].first, caso.hojas[i].second, QString()));
+        // A form of -1 draws only the first row of marks; above 4 it is the distance of a
+        // form-1 sheet.
+        for (const auto& [letras, forma] : caso.hojas) {
+            DisenoHoja d = Hoja_Alumno(letras, forma > 4 ? 1 : std::max(forma, 0), QString(),
+                                       forma > 4 ? forma : 852);
+            if (forma < 0) d.filas_marcas = 1;
+            Hoja(forma < 0 ? QStringLiteral("blanca.bmp") : QStringLiteral("p%1.bmp").arg(forma),
+                 d);
+        }
         Guion(caso.cajas);
         ASSERT_TRUE(Corre());
         EXPECT_EQ(Cajas(), caso.cajas);
