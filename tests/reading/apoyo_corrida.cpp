@@ -7,6 +7,7 @@
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/dialogos_consola.h"
 
 QString Rut_Valido(int cuerpo) {
     const QString digitos = QString::number(cuerpo);
@@ -60,23 +61,13 @@ void CorridaPrueba::SetUp() {
     ini.write((escaneo + QStringLiteral("\ntrue\n")).toUtf8());
 }
 
-namespace {
-
-class DialogosMudos : public Dialogos {
-  public:
-    int MsgBox(const QString&, int, const QString&) override { return vbCancel; }
-    QString InputBox(const QString&, const QString&, const QString&) override { return {}; }
-    QString AbrirArchivo(const QString&, const QString&) override { return {}; }
-    QString GuardarArchivo(const QString&, const QString&, const QString&) override { return {}; }
-    QString Frm_SoloRrut(const QString&) override { return {}; }
-};
-
-}  // namespace
-
 void CorridaPrueba::TearDown() {
     corrida.reset();
     BaseTemporal::TearDown();
-    Instala_Dialogos(std::make_unique<DialogosMudos>());
+    static QString descartadas;
+    static QTextStream nulo(&descartadas);
+    descartadas.clear();
+    Instala_Dialogos(std::make_unique<DialogosConsola>(nulo));
 }
 
 void CorridaPrueba::Reinicia() {

@@ -39,7 +39,7 @@ class CorridaPrueba : public BaseTemporal {
     static constexpr int kPrueba = 7;
 
     void SetUp() override;
-    // Leaves the boxes mute again for the tests of the program that do not script them.
+    // Leaves unscripted boxes answered alone again, for the tests that do not script them.
     void TearDown() override;
     // A fresh data folder and store for the next case of a table.
     void Reinicia();
