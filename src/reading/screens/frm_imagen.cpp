@@ -90,12 +90,16 @@ QWidget* FrmImagen::Panel_Derecho() {
     return panel;
 }
 
+// While a run reads the folder, the pauses let the screen repaint, but emptying the folder or
+// unloading the screen under the run would lose sheets: those clicks wait for its end.
 void FrmImagen::CmdCarga_Lee_Click() {
-    Ejecutar_Comando([this] { corrida_.CmdCarga_Lee(); });
+    if (!en_corrida_) Ejecutar_Comando([this] { corrida_.CmdCarga_Lee(); });
 }
 
 void FrmImagen::CmdCorregir_Pruebas_Click() {
+    en_corrida_ = true;
     Ejecutar_Comando([this] { corrida_.CmdCorregir_Pruebas(); });
+    en_corrida_ = false;
 }
 
 void FrmImagen::CmdLimpiaGrilla_Click() {
@@ -103,6 +107,7 @@ void FrmImagen::CmdLimpiaGrilla_Click() {
 }
 
 void FrmImagen::CmdSalir_Click() {
+    if (en_corrida_) return;
     Descarga_Pantalla(QStringLiteral("frmCorrecPru"));
     Muestra_Pantalla(QStringLiteral("frmCorrecPru"));
     Descarga_Pantalla(QStringLiteral("FrmImagen"));

@@ -53,4 +53,5 @@ class FrmImagen : public QWidget, public ObservadorCorrida {
     QPixmap hoja_;       // the sheet in hand, scaled to the view
     double escala_ = 1;  // view pixels an image pixel
     QScrollArea* vista_ = nullptr;
+    bool en_corrida_ = false;  // CmdCorregir_Pruebas is running
 };
