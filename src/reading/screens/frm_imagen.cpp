@@ -72,6 +72,8 @@ QWidget* FrmImagen::Panel_Derecho() {
     capa->addWidget(Progreso);
     List1 = new QListWidget(panel);
     capa->addWidget(List1);
+    corrida_.c.SprRespuesta_Correctas.FijaCelda(0, 1, QStringLiteral("Pregunta"));
+    corrida_.c.SprRespuesta_Correctas.FijaCelda(0, 2, QStringLiteral("Respuesta"));
     auto* respuestas = new QTableView(panel);
     respuestas->setModel(new GrillaModelo(corrida_.c.SprRespuesta_Correctas, respuestas));
     respuestas->horizontalHeader()->setStretchLastSection(true);
@@ -150,7 +152,8 @@ void FrmImagen::Dibuja_Marcas() {
     pintor.setPen(QPen(Qt::red, 2));
     pintor.scale(escala_, escala_);
     const ResultadoHoja& h = corrida_.hoja;
-    auto caja = [&](int x, int y) { pintor.drawRect(x - 14, y - 14, 28, 28); };
+    // (x, y) is a mark's top-left dark pixel.
+    auto caja = [&](int x, int y) { pintor.drawRect(x - 8, y - 8, 44, 44); };
     for (const Marcas& m : h.filas) {
         if (m.X + m.X1 == 0) continue;
         caja(m.X, m.Y);
