@@ -94,16 +94,15 @@ void Llena_List1(Corrector& c, const QVariant& forma) {
 }
 
 // Without students of the form, the students of the last sheet's first form are taken: the way
-// by which sheets of form 99 reach the results.
+// by which sheets of form 99 reach the results. When the last sheet stored nothing (its rut
+// prompt deleted it) there is no one to take, and the run still ends with its message.
 void Llena_List1_Con_Ultima_Hoja(Corrector& c) {
-    while (c.List1.isEmpty()) {
-        Recordset rs = Base().OpenRecordset(
-            QStringLiteral(" select forma from respuesta_alumnos_por_rut where idprueba = ? and rut_alumno = ? "
-                           "order by  forma"),
-            {Id(), c.TxtRut});
-        if (rs.Eof()) throw ErrorEjecucion(QStringLiteral("No hay registro actual."));
-        Llena_List1(c, rs[0]);
-    }
+    if (!c.List1.isEmpty()) return;
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral(" select forma from respuesta_alumnos_por_rut where idprueba = ? and rut_alumno = ? "
+                       "order by  forma"),
+        {Id(), c.TxtRut});
+    if (!rs.Eof()) Llena_List1(c, rs[0]);
 }
 
 // The general mode: every form with a key, every student of that form. The repair stops at

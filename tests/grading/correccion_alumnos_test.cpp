@@ -118,3 +118,9 @@ TEST_F(Correccion, RepairGivesAProportionalGradeAndStopsAtAStudentWithoutAnswers
     EXPECT_DOUBLE_EQ(Valor("select nota from ResultadoAlumnos_rj where rut = '2-7'").toDouble(), 7);
     EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), 2) << "the repair writes no new rows";
 }
+
+TEST_F(Correccion, ALastSheetWithNothingStoredLeavesTheFormWithoutStudents) {
+    c.TxtRut = "7-7";  // its rut prompt deleted it
+    Resultados_Alumnos_Pruebas(c);
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), 0);
+}
