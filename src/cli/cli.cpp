@@ -6,8 +6,10 @@
 #include <map>
 
 #include "cli/corregir.h"
+#include "cli/demo.h"
 #include "cli/hoja.h"
 #include "cli/leer.h"
+#include "platform/error_ejecucion.h"
 
 namespace {
 
@@ -20,6 +22,8 @@ const std::map<QString, Subcomando>& subcomandos() {
     static const std::map<QString, Subcomando> tabla = {
         {QStringLiteral("corregir"),
          {QStringLiteral("corrige las hojas escaneadas de una prueba y las graba"), Cmd_Corregir}},
+        {QStringLiteral("demo"),
+         {QStringLiteral("prepara una prueba de demostración con sus hojas escaneadas"), Cmd_Demo}},
         {QStringLiteral("hoja"), {QStringLiteral("dibuja una hoja de respuestas (BMP)"), Cmd_Hoja}},
         {QStringLiteral("leer"), {QStringLiteral("lee hojas escaneadas y escribe JSON"), Cmd_Leer}},
     };
@@ -39,5 +43,14 @@ int Muestra_Uso() {
 int Ejecuta_Cli(const QStringList& args) {
     const auto it = subcomandos().find(args.value(0));
     if (it == subcomandos().end()) return Muestra_Uso();
-    return it->second.ejecutar(args.mid(1));
+    // An unexpected failure ends the command with its words, never with a crash; what was
+    // stored before it stays stored.
+    try {
+        return it->second.ejecutar(args.mid(1));
+    } catch (const ErrorEjecucion& e) {
+        QTextStream(stderr) << "Error de ejecución: " << e.texto() << "\n";
+    } catch (const std::exception& e) {
+        QTextStream(stderr) << "Error de ejecución: " << e.what() << "\n";
+    }
+    return 1;
 }

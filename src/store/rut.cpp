@@ -16,13 +16,22 @@ bool Fnc_Valida_Rut(const QString& rut) {
         factor = factor == 7 ? 2 : factor + 1;
     }
     const int r = 11 - suma % 11;
-    const QString esperado = r == 10 ? QStringLiteral("K") : r == 11 ? QStringLiteral("0") : QString::number(r);
+    const QString esperado = r == 10   ? QStringLiteral("K")
+                             : r == 11 ? QStringLiteral("0")
+                                       : QString::number(r);
     return esperado == dv;
 }
 
+QString Rut_Con_Digito(qint64 cuerpo) {
+    const QString digitos = QString::number(cuerpo);
+    for (const QChar dv : QStringLiteral("0123456789K"))
+        if (Fnc_Valida_Rut(digitos + QLatin1Char('-') + dv)) return digitos + QLatin1Char('-') + dv;
+    return {};
+}
+
 int Filtra_Tecla_Rut(int codigo, bool* pita) {
-    const bool pasa = codigo == '-' || codigo == 'k' || codigo == 'K' || (codigo >= '0' && codigo <= '9') ||
-                      codigo == 8;
+    const bool pasa = codigo == '-' || codigo == 'k' || codigo == 'K' ||
+                      (codigo >= '0' && codigo <= '9') || codigo == 8;
     if (pita) *pita = !pasa;
     return pasa ? codigo : 13;
 }

@@ -9,23 +9,12 @@
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "reading/generador_hoja.h"
+#include "store/rut.h"
 #include "support/base_temporal.h"
 
 namespace {
 
 const char* const kLetras = "ABCDEABCDE";
-
-QString Rut_Con_Digito(int cuerpo) {
-    const QString d = QString::number(cuerpo);
-    int suma = 0, factor = 2;
-    for (int i = d.size() - 1; i >= 0; --i, factor = factor == 7 ? 2 : factor + 1)
-        suma += d[i].digitValue() * factor;
-    const int r = 11 - suma % 11;
-    return d + QLatin1Char('-') +
-           (r == 10   ? QStringLiteral("K")
-            : r == 11 ? QStringLiteral("0")
-                      : QString::number(r));
-}
 
 class ZortaCorregir : public BaseTemporal {
   public:

@@ -8,20 +8,9 @@
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/dialogos_consola.h"
+#include "store/rut.h"
 
-QString Rut_Valido(int cuerpo) {
-    const QString digitos = QString::number(cuerpo);
-    int suma = 0, factor = 2;
-    for (int i = digitos.size() - 1; i >= 0; --i) {
-        suma += digitos[i].digitValue() * factor;
-        factor = factor == 7 ? 2 : factor + 1;
-    }
-    const int r = 11 - suma % 11;
-    const QString dv = r == 10   ? QStringLiteral("K")
-                       : r == 11 ? QStringLiteral("0")
-                                 : QString::number(r);
-    return digitos + QLatin1Char('-') + dv;
-}
+QString Rut_Valido(int cuerpo) { return Rut_Con_Digito(cuerpo); }
 
 QString Columnas_Rut(const QString& rut) {
     return QString(rut).remove(QLatin1Char('-'));

@@ -29,3 +29,9 @@ TEST(Rut, KeyFilterLetsOnlyRutKeysThrough) {
         EXPECT_TRUE(pita);
     }
 }
+
+TEST(Rut, CheckCharacterOfABody) {
+    EXPECT_EQ(Rut_Con_Digito(12345678), "12345678-5");
+    EXPECT_EQ(Rut_Con_Digito(1000005), "1000005-K");
+    EXPECT_EQ(Rut_Con_Digito(1000013), "1000013-0");
+}
