@@ -14,6 +14,9 @@
 #include "app/screens/mdi_main.h"
 #include "grading/screens/frm_correc_pru.h"
 #include "platform/base_datos.h"
+#include "reading/generador_hoja.h"
+#include "reading/lectura_hoja.h"
+#include "reading/screens/frm_imagen.h"
 #include "platform/screens/navegacion.h"
 #include "setup/screens/frm_gene_pru.h"
 #include "setup/screens/frm_ing_manual.h"
@@ -119,4 +122,41 @@ TEST_F(Capturas, CreacionPautaYMatriz) {
     e.Tipo_Prueba_Actual = "GENERAL";
     FrmMatrizRespCorrec matriz;
     Guarda(matriz, "frm_matriz_resp_correc.png");
+}
+
+TEST_F(Capturas, HojaEnLectura) {
+    Estado& e = estado();
+    e.Id_Prueba_Actual = 2;
+    e.Numero_Formas_Actual = 2;
+    e.Preguntas_Actual = 30;
+    e.Corrige_Pruebas = true;
+    DisenoHoja d;
+    d.formas = {1};
+    d.rut = "123456785";
+    for (int p = 1; p <= 30; ++p) d.respuestas.push_back({p, 1 + p % 5});
+    d.rotacion = 0.4;
+    const QString ruta = Ruta("hoja001.bmp");
+    Dibuja_Hoja(d).Guarda_Bmp(ruta);
+    const Imagen imagen = Abre_Hoja(ruta);
+    FrmImagen f;
+    f.resize(1200, 760);
+    CorridaLectura& c = f.corrida();
+    c.hoja = Lee_Hoja(imagen, {30, 5, true});
+    c.Ruta_Hoja = ruta;
+    c.c.TxtForma = QString::number(c.hoja.forma);
+    c.c.TxtRut = c.hoja.rut;
+    c.lbl_CantidadHojas = 28;
+    c.lbl_Leidas = 12;
+    c.resumen.leidas = 12;
+    const auto& m = c.hoja.filas[0];
+    c.c.List1 = {QString("%1 ; %2   %3 ; %4").arg(m.X).arg(m.Y).arg(m.X1).arg(m.Y1),
+                 QString("diferencia : %1").arg(m.X1 - m.X)};
+    Grilla& letras = c.c.SprRespuesta_Correctas;
+    letras.SetMaxRows(int(c.hoja.respuestas.size()));
+    for (int i = 1; i <= letras.MaxRows(); ++i) {
+        letras.FijaCelda(i, 1, QString::number(i));
+        letras.FijaCelda(i, 2, QString(QChar(c.hoja.respuestas[i - 1])));
+    }
+    f.Hoja_En_Mano(c, imagen);
+    Guarda(f, "frm_imagen.png");
 }

@@ -77,6 +77,7 @@ QWidget* FrmImagen::Panel_Derecho() {
     auto* respuestas = new QTableView(panel);
     respuestas->setModel(new GrillaModelo(corrida_.c.SprRespuesta_Correctas, respuestas));
     respuestas->horizontalHeader()->setStretchLastSection(true);
+    respuestas->verticalHeader()->setDefaultSectionSize(22);
     capa->addWidget(respuestas, 1);
     CmdCarga_Lee = new QPushButton(panel);
     CmdCorregir_Pruebas = new QPushButton(panel);
