@@ -82,31 +82,13 @@ DisenoHoja Hoja(const QString& rut, int forma, const QString& pauta, QRandomGene
     return d;
 }
 
-}  // namespace
-
-int Cmd_Demo(const QStringList& args) {
-    QTextStream salida(stdout);
-    int alumnos = 30;
-    if (args.contains(QLatin1String("--help"))) {
-        salida << kAyuda;
-        return 0;
-    }
-    if (!args.isEmpty()) {
-        bool ok = args.size() == 2 && args[0] == QLatin1String("--alumnos");
-        if (ok) alumnos = args[1].toInt(&ok);
-        if (!ok || alumnos < 3 || alumnos > 200) {
-            QTextStream(stderr) << kAyuda;
-            return 2;
-        }
-    }
-    Instala_Dialogos(std::make_unique<DialogosConsola>(salida));
-    if (!MDIForm_Load()) return 1;
+// The test, its course and the course's sheets in `carpeta`, stored all or none.
+int16_t Prepara(int alumnos, const QString& carpeta) {
     QRandomGenerator azar(2026);
     QString pautas[2];
     for (QString& pauta : pautas)
         for (int p = 0; p < kPreguntas; ++p) pauta += QChar(u'A' + azar.bounded(5));
-    const QString carpeta = Carpeta_Escaneo();
-    Base().BeginTrans();
+    Transaccion t(Base());
     const int16_t id = Crea_Prueba(pautas);
     for (int i = 1; i <= alumnos; ++i) {
         QString rut;
@@ -127,7 +109,31 @@ int Cmd_Demo(const QStringList& args) {
     }
     Base().Execute(QStringLiteral("insert into CURSOS values (?, 0, ?)"),
                    {kCurso, Siguiente_Indice(QStringLiteral("CURSO"))});
-    Base().CommitTrans();
+    t.Confirma();
+    return id;
+}
+
+}  // namespace
+
+int Cmd_Demo(const QStringList& args) {
+    QTextStream salida(stdout);
+    int alumnos = 30;
+    if (args.contains(QLatin1String("--help"))) {
+        salida << kAyuda;
+        return 0;
+    }
+    if (!args.isEmpty()) {
+        bool ok = args.size() == 2 && args[0] == QLatin1String("--alumnos");
+        if (ok) alumnos = args[1].toInt(&ok);
+        if (!ok || alumnos < 3 || alumnos > 200) {
+            QTextStream(stderr) << kAyuda;
+            return 2;
+        }
+    }
+    Instala_Dialogos(std::make_unique<DialogosConsola>(salida));
+    if (!MDIForm_Load()) return 1;
+    const QString carpeta = Carpeta_Escaneo();
+    const int16_t id = Prepara(alumnos, carpeta);
     estado().BaseDatos.reset();  // closed before the application object goes
     salida << "Prueba " << id << " \"Ensayo de demostración\": " << alumnos << " hojas en "
            << QDir::toNativeSeparators(carpeta) << Qt::endl;

@@ -21,7 +21,9 @@ QSqlQuery Prepara(const QSqlDatabase& db, const QString& sql, const QVariantList
     if (!q.prepare(sql)) Falla(q.lastError(), sql);
     // A text is never NULL: an empty box is stored as an empty text, as the statements write it.
     for (const QVariant& p : parametros)
-        q.addBindValue(p.typeId() == QMetaType::QString && p.toString().isNull() ? QVariant(QStringLiteral("")) : p);
+        q.addBindValue(p.typeId() == QMetaType::QString && p.toString().isNull()
+                           ? QVariant(QStringLiteral(""))
+                           : p);
     if (!q.exec()) Falla(q.lastError(), sql);
     return q;
 }
@@ -47,15 +49,19 @@ int Recordset::Posicion(const QString& nombre) const {
 
 QVariant Recordset::operator[](int posicion) const {
     if (posicion < 0 || posicion >= columnas_.size())
-        throw ErrorEjecucion(QStringLiteral("El campo %1 no existe en esta consulta.").arg(posicion));
+        throw ErrorEjecucion(
+            QStringLiteral("El campo %1 no existe en esta consulta.").arg(posicion));
     return Eof() ? QVariant() : filas_[fila_].at(posicion);
 }
 
-QVariant Recordset::operator[](const QString& nombre) const { return (*this)[Posicion(nombre)]; }
+QVariant Recordset::operator[](const QString& nombre) const {
+    return (*this)[Posicion(nombre)];
+}
 
 void Recordset::AddNew() {
     if (tabla_.isEmpty())
-        throw ErrorEjecucion(QStringLiteral("Solo una tabla abierta por su nombre admite filas nuevas."));
+        throw ErrorEjecucion(
+            QStringLiteral("Solo una tabla abierta por su nombre admite filas nuevas."));
     nuevos_campos_.clear();
     nuevos_valores_.clear();
 }
@@ -69,9 +75,10 @@ void Recordset::Fija(const QString& campo, const QVariant& valor) {
 void Recordset::Update() {
     QStringList marcas;
     for (qsizetype i = 0; i < nuevos_campos_.size(); ++i) marcas << QStringLiteral("?");
-    base_->Execute(QStringLiteral("insert into %1 (%2) values (%3)")
-                       .arg(tabla_, nuevos_campos_.join(QLatin1Char(',')), marcas.join(QLatin1Char(','))),
-                   nuevos_valores_);
+    base_->Execute(
+        QStringLiteral("insert into %1 (%2) values (%3)")
+            .arg(tabla_, nuevos_campos_.join(QLatin1Char(',')), marcas.join(QLatin1Char(','))),
+        nuevos_valores_);
     nuevos_campos_.clear();
     nuevos_valores_.clear();
 }
@@ -87,7 +94,9 @@ BaseDatos::~BaseDatos() {
     QSqlDatabase::removeDatabase(conexion_);
 }
 
-QSqlDatabase BaseDatos::db() const { return QSqlDatabase::database(conexion_, false); }
+QSqlDatabase BaseDatos::db() const {
+    return QSqlDatabase::database(conexion_, false);
+}
 
 std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta) {
     static QAtomicInt contador;
@@ -106,7 +115,8 @@ std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta) {
         base->Execute(QStringLiteral("PRAGMA journal_mode=WAL"));
         base->Execute(QStringLiteral("PRAGMA synchronous=FULL"));
     } catch (const ErrorEjecucion& e) {
-        throw ErrorEjecucion(QStringLiteral("No se pudo abrir la base de datos %1: %2").arg(ruta, e.texto()));
+        throw ErrorEjecucion(
+            QStringLiteral("No se pudo abrir la base de datos %1: %2").arg(ruta, e.texto()));
     }
     return base;
 }
@@ -141,7 +151,8 @@ Recordset BaseDatos::OpenRecordset(const QString& sql_o_tabla, const QVariantLis
 }
 
 Recordset BaseDatos::OpenTable(const QString& tabla) {
-    if (!Es_Nombre_De_Tabla(tabla)) throw ErrorEjecucion(QStringLiteral("Nombre de tabla no válido: %1").arg(tabla));
+    if (!Es_Nombre_De_Tabla(tabla))
+        throw ErrorEjecucion(QStringLiteral("Nombre de tabla no válido: %1").arg(tabla));
     Recordset rs = OpenRecordset(QStringLiteral("select * from %1 limit 0").arg(tabla));
     rs.tabla_ = tabla;
     return rs;
@@ -149,7 +160,8 @@ Recordset BaseDatos::OpenTable(const QString& tabla) {
 
 bool BaseDatos::TableExists(const QString& nombre) {
     Recordset rs = OpenRecordset(
-        QStringLiteral("select name from sqlite_master where type = 'table' and lower(name) = lower(?)"),
+        QStringLiteral(
+            "select name from sqlite_master where type = 'table' and lower(name) = lower(?)"),
         {nombre});
     return !rs.Eof();
 }
@@ -166,4 +178,19 @@ void BaseDatos::CommitTrans() {
     if (!db().commit()) Falla(db().lastError(), QStringLiteral("COMMIT"));
 }
 
-void BaseDatos::Rollback() { db().rollback(); }
+void BaseDatos::Rollback() {
+    db().rollback();
+}
+
+Transaccion::Transaccion(BaseDatos& base) : base_(base) {
+    base_.BeginTrans();
+}
+
+Transaccion::~Transaccion() {
+    if (!confirmada_) base_.Rollback();
+}
+
+void Transaccion::Confirma() {
+    base_.CommitTrans();
+    confirmada_ = true;
+}

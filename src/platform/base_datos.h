@@ -15,7 +15,7 @@ class BaseDatos;
 // The rows of a query, walked with Eof/MoveNext; fields by name (case-blind) or by position
 // from 0. A recordset opened on a plain table name also adds rows with AddNew/Fija/Update.
 class Recordset {
-public:
+  public:
     Recordset() = default;
 
     bool Eof() const { return fila_ >= filas_.size(); }
@@ -35,7 +35,7 @@ public:
     void Fija(const QString& campo, const QVariant& valor);
     void Update();
 
-private:
+  private:
     friend class BaseDatos;
     int Posicion(const QString& nombre) const;
 
@@ -48,8 +48,23 @@ private:
     QVariantList nuevos_valores_;
 };
 
+// One unit of store writes, all or none: committed by Confirma, rolled back when an error
+// leaves the scope first.
+class Transaccion {
+  public:
+    explicit Transaccion(BaseDatos& base);
+    ~Transaccion();
+    Transaccion(const Transaccion&) = delete;
+    Transaccion& operator=(const Transaccion&) = delete;
+    void Confirma();
+
+  private:
+    BaseDatos& base_;
+    bool confirmada_ = false;
+};
+
 class BaseDatos {
-public:
+  public:
     // Opens (or creates) the store file; ErrorEjecucion when it can't be opened as a store.
     static std::shared_ptr<BaseDatos> OpenDatabase(const QString& ruta);
     ~BaseDatos();
@@ -73,7 +88,7 @@ public:
 
     const QString& Ruta() const { return ruta_; }
 
-private:
+  private:
     BaseDatos(QString ruta, QString conexion);
     QSqlDatabase db() const;
 

@@ -11,7 +11,6 @@
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
 #include "reading/corrida_lectura.h"
-#include "reading/transaccion.h"
 #include "store/rut.h"
 
 namespace {
@@ -191,7 +190,7 @@ void CorridaLectura::Carga_Tabla() {
 }
 
 CorridaLectura::Paso CorridaLectura::Guarda_Hoja() {
-    Transaccion t;
+    Transaccion t(*estado().BaseDatos);
     Graba_Alumno();
     t.Confirma();
     return Paso::Siguiente;
@@ -199,7 +198,7 @@ CorridaLectura::Paso CorridaLectura::Guarda_Hoja() {
 
 CorridaLectura::Paso CorridaLectura::Guarda_Pauta() {
     const Estado& e = estado();
-    Transaccion t;
+    Transaccion t(*estado().BaseDatos);
     c.Preguntas_Omitidas.clear();
     c.Preguntas_Nulas.clear();
     Varifica_Pauta_Grabada(c);

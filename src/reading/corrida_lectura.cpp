@@ -12,7 +12,6 @@
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "reading/escaner.h"
-#include "reading/transaccion.h"
 #include "store/nota_minima.h"
 
 namespace {
@@ -153,7 +152,7 @@ void CorridaLectura::Fin_Corrida() {
     if (estado().Lee_Pauta) return Fin_Pauta();
     if (Hojas_Corregidas <= 0) return Avisa();
     {
-        Transaccion t;
+        Transaccion t(*estado().BaseDatos);
         Calcula_Notas_Tabla(c.Notas);
         Resultados_Alumnos_Pruebas(c);
         t.Confirma();

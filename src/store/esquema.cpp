@@ -16,13 +16,16 @@ const std::vector<std::pair<QString, QString>>& Tablas() {
     static const std::vector<std::pair<QString, QString>> tablas = {
         {"prueba_rj",
          "IdPrueba INTEGER PRIMARY KEY, NombrePrueba TEXT, TipoPrueba TEXT, NombreProfesor TEXT, "
-         "Asignatura TEXT, curso TEXT, Numero_Forma INTEGER, Fecha TEXT, Pregunta_Seleccion INTEGER, "
+         "Asignatura TEXT, curso TEXT, Numero_Forma INTEGER, Fecha TEXT, Pregunta_Seleccion "
+         "INTEGER, "
          "puntaje_base INTEGER, Numero_Alternativas INTEGER, ingreso_pauta TEXT, formas INTEGER"},
-        {"Resp_preguntas_pautas", "IdPrueba INTEGER, pregunta INTEGER, Forma INTEGER, Alternativa INTEGER"},
+        {"Resp_preguntas_pautas",
+         "IdPrueba INTEGER, pregunta INTEGER, Forma INTEGER, Alternativa INTEGER"},
         {"respuesta_alumnos_por_rut",
          "IdPrueba INTEGER, pregunta INTEGER, Forma INTEGER, Alternativa INTEGER, RUT_Alumno TEXT"},
         {"ResultadoAlumnos_rj",
-         "IdPrueba INTEGER, Rut TEXT, Buenas INTEGER, Malas INTEGER, Omitidas INTEGER, Nulas INTEGER, "
+         "IdPrueba INTEGER, Rut TEXT, Buenas INTEGER, Malas INTEGER, Omitidas INTEGER, Nulas "
+         "INTEGER, "
          "Puntaje INTEGER, Nota REAL, Logro INTEGER, Porcentaje INTEGER, Forma INTEGER"},
         {"ALUMNOS", "Rut TEXT PRIMARY KEY, PRIMERAPELLIDO TEXT, curso TEXT, adicional TEXT"},
         {"CURSOS", "curso TEXT, idnivel INTEGER, idcurso INTEGER"},
@@ -30,7 +33,8 @@ const std::vector<std::pair<QString, QString>>& Tablas() {
         {"Profesores", "NombreProfesor TEXT, rut TEXT"},
         {"Asignaturas", "idasignatura INTEGER PRIMARY KEY, Asignatura TEXT"},
         {"ejes", "IdEje INTEGER PRIMARY KEY, eje TEXT, TipoEnsayo TEXT, TipoPrueba TEXT"},
-        {"objetivos", "idobjetivo INTEGER PRIMARY KEY, concepto TEXT, descripcion TEXT, estado TEXT"},
+        {"objetivos",
+         "idobjetivo INTEGER PRIMARY KEY, concepto TEXT, descripcion TEXT, estado TEXT"},
         {"indice_general", "tipo_indice TEXT PRIMARY KEY, valor_indice INTEGER"},
         {"NivelesCalificacion", "concepto TEXT, desde REAL, hasta REAL"},
         {"Puntaje_SIMCE", "puntaje_minimo INTEGER, puntaje_maximo INTEGER"},
@@ -63,15 +67,17 @@ void Llena_Base_Nueva(BaseDatos& base) {
     // Minimum grade 1.0; achievement on a 60 % scale; four levels for the SEP reports.
     const QString nivel = QStringLiteral("insert into NivelesCalificacion values (?, ?, ?)");
     const std::vector<std::tuple<QString, double, double>> umbrales = {
-        {"NM", 1, 0},   {"L", 80, 100},  {"PL", 60, 79},  {"NL", 0, 59},
-        {"NB", 0, 39},  {"NMB", 40, 59}, {"NMA", 60, 79}, {"NA", 80, 100},
+        {"NM", 1, 0},  {"L", 80, 100},  {"PL", 60, 79},  {"NL", 0, 59},
+        {"NB", 0, 39}, {"NMB", 40, 59}, {"NMA", 60, 79}, {"NA", 80, 100},
     };
-    for (const auto& [concepto, desde, hasta] : umbrales) base.Execute(nivel, {concepto, desde, hasta});
+    for (const auto& [concepto, desde, hasta] : umbrales)
+        base.Execute(nivel, {concepto, desde, hasta});
 
     base.Execute(QStringLiteral("insert into Puntaje_SIMCE values (?, ?)"), {100, 400});
     int id = 1;
     for (const char* n : kNiveles)
-        base.Execute(QStringLiteral("insert into Niveles values (?, ?)"), {id++, QString::fromUtf8(n)});
+        base.Execute(QStringLiteral("insert into Niveles values (?, ?)"),
+                     {id++, QString::fromUtf8(n)});
 }
 
 }  // namespace
@@ -83,15 +89,10 @@ QString Definicion_Tabla(const QString& tabla) {
 }
 
 void Crea_Base_Nueva(BaseDatos& base) {
-    base.BeginTrans();
-    try {
-        for (const auto& [nombre, columnas] : Tablas())
-            base.Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(nombre, columnas));
-        for (const char* ix : kIndices) base.Execute(QString::fromUtf8(ix));
-        Llena_Base_Nueva(base);
-        base.CommitTrans();
-    } catch (...) {
-        base.Rollback();
-        throw;
-    }
+    Transaccion t(base);
+    for (const auto& [nombre, columnas] : Tablas())
+        base.Execute(QStringLiteral("CREATE TABLE %1 (%2)").arg(nombre, columnas));
+    for (const char* ix : kIndices) base.Execute(QString::fromUtf8(ix));
+    Llena_Base_Nueva(base);
+    t.Confirma();
 }

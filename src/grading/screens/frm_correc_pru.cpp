@@ -25,16 +25,22 @@ namespace {
 
 // Labels repeating the chosen test, in the order of SprPrincipal's columns, with their captions.
 const char* const kEtiquetas[][2] = {
-    {"LblCorrelativo", "Nº Prueba"}, {"LblNombre", "Nombre"},      {"LblProfesor", "Profesor"},
-    {"LblCurso", "Curso"},           {"LblTipPru", "Tipo Prueba"}, {"LblPreSelecc", "Preg. Selección"},
-    {"LblAsig", "Asignatura"},       {"LblFecha", "Fecha"},        {"LblNdforma", "Nº Forma"},
-    {"LblNAlternativa", "Nº Alternativas"}, {"LblPauta", "Pauta"},
+    {"LblCorrelativo", "Nº Prueba"}, {"LblNombre", "Nombre"},
+    {"LblProfesor", "Profesor"},     {"LblCurso", "Curso"},
+    {"LblTipPru", "Tipo Prueba"},    {"LblPreSelecc", "Preg. Selección"},
+    {"LblAsig", "Asignatura"},       {"LblFecha", "Fecha"},
+    {"LblNdforma", "Nº Forma"},      {"LblNAlternativa", "Nº Alternativas"},
+    {"LblPauta", "Pauta"},
 };
-const char* const kCabezasPrincipal[] = {"Nº",    "Nombre",    "Profesor", "Curso",           "Tipo Prueba", "Preg. Selección",
-                                         "Asignatura", "Fecha", "Nº Forma", "Nº Alternativas", "Pauta"};
-const char* const kCabezasResultado[] = {"Alumno", "Buenas", "Malas", "Omitidas", "Nota", "Forma", " ", " ", " ", "Orden Lectura"};
+const char* const kCabezasPrincipal[] = {"Nº",          "Nombre",          "Profesor",   "Curso",
+                                         "Tipo Prueba", "Preg. Selección", "Asignatura", "Fecha",
+                                         "Nº Forma",    "Nº Alternativas", "Pauta"};
+const char* const kCabezasResultado[] = {"Alumno", "Buenas", "Malas", "Omitidas", "Nota",
+                                         "Forma",  " ",      " ",     " ",        "Orden Lectura"};
 
-BaseDatos& Base() { return *estado().BaseDatos; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
 
 QTableView* Vista(Grilla& g, QWidget* padre) {
     auto* v = new QTableView(padre);
@@ -51,8 +57,10 @@ QTableView* Vista(Grilla& g, QWidget* padre) {
 frmCorrecPru::frmCorrecPru(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("frmCorrecPru"));
     setWindowTitle(QStringLiteral("Resumen Pruebas Ingresadas."));
-    for (int c = 0; c < 11; ++c) SprPrincipal.FijaCelda(0, c + 1, QString::fromUtf8(kCabezasPrincipal[c]));
-    for (int c = 0; c < 10; ++c) SprResulprucargada.FijaCelda(0, c + 1, QString::fromUtf8(kCabezasResultado[c]));
+    for (int c = 0; c < 11; ++c)
+        SprPrincipal.FijaCelda(0, c + 1, QString::fromUtf8(kCabezasPrincipal[c]));
+    for (int c = 0; c < 10; ++c)
+        SprResulprucargada.FijaCelda(0, c + 1, QString::fromUtf8(kCabezasResultado[c]));
     Construye();
     LLena_Grilla_Principal();
     XPButton1->setEnabled(false);
@@ -82,14 +90,19 @@ void frmCorrecPru::Construye() {
     auto* capa = new QVBoxLayout(this);
     capa->addWidget(vista_principal_, 1);
     capa->addLayout(abajo, 1);
-    connect(vista_principal_, &QTableView::clicked, this,
-            [this](const QModelIndex& i) { Ejecutar_Comando([&] { SprPrincipal_Click(i.row() + 1); }); });
-    connect(vista_principal_, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& i) { Ejecutar_Comando([&] { SprPrincipal_DblClick(i.row() + 1); }); });
-    connect(vista_resultados_, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& i) { Ejecutar_Comando([&] { SprResulprucargada_DblClick(i.row() + 1); }); });
-    connect(eliminar, &QPushButton::clicked, this, [this] { Ejecutar_Comando([this] { Elimina_Prueba(); }); });
-    connect(XPButton1, &QPushButton::clicked, this, [this] { Ejecutar_Comando([this] { XPButton1_Click(); }); });
+    connect(vista_principal_, &QTableView::clicked, this, [this](const QModelIndex& i) {
+        Ejecutar_Comando([&] { SprPrincipal_Click(i.row() + 1); });
+    });
+    connect(vista_principal_, &QTableView::doubleClicked, this, [this](const QModelIndex& i) {
+        Ejecutar_Comando([&] { SprPrincipal_DblClick(i.row() + 1); });
+    });
+    connect(vista_resultados_, &QTableView::doubleClicked, this, [this](const QModelIndex& i) {
+        Ejecutar_Comando([&] { SprResulprucargada_DblClick(i.row() + 1); });
+    });
+    connect(eliminar, &QPushButton::clicked, this,
+            [this] { Ejecutar_Comando([this] { Elimina_Prueba(); }); });
+    connect(XPButton1, &QPushButton::clicked, this,
+            [this] { Ejecutar_Comando([this] { XPButton1_Click(); }); });
     resize(1180, 640);
 }
 
@@ -105,7 +118,8 @@ void frmCorrecPru::Refresca_Vistas() {
 }
 
 void frmCorrecPru::LLena_Grilla_Principal() {
-    Recordset rs = Base().OpenRecordset(QStringLiteral("select * from prueba_rj order by idprueba desc "));
+    Recordset rs =
+        Base().OpenRecordset(QStringLiteral("select * from prueba_rj order by idprueba desc "));
     SprPrincipal.SetMaxRows(rs.RecordCount());
     // Columns in the list's order, as positions of a prueba_rj row.
     static const int kCampos[] = {0, 1, 3, 5, 2, 8, 4, 7, 6, 10, 11};
@@ -158,7 +172,8 @@ void frmCorrecPru::Agrega_Fila_Resultado() {
 
 void frmCorrecPru::Carga_Detalle_Prueba(int16_t idprueba) {
     Grilla descarte(1, 9);  // the surname is looked up but not shown
-    Recordset rs = Base().OpenRecordset(QStringLiteral("select * from ResultadoAlumnos_rj where idprueba = ?"), {idprueba});
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral("select * from ResultadoAlumnos_rj where idprueba = ?"), {idprueba});
     for (; !rs.Eof(); rs.MoveNext()) {
         const QString rut = rs[QStringLiteral("Rut")].toString();
         Fnc_Nombre_Alumno(rut, descarte);
@@ -166,11 +181,14 @@ void frmCorrecPru::Carga_Detalle_Prueba(int16_t idprueba) {
         Agrega_Fila_Resultado();
     }
     for (int f = 1; f <= SprResulprucargada.MaxRows(); ++f) {
-        if (!SprResulprucargada.Celda(f, 1).isEmpty()) SprResulprucargada.SetBackColor(f, 1, ColorBlanco);
-        if (Val(SprResulprucargada.Celda(f, 6)) < 4) SprResulprucargada.SetBackColor(f, 6, ColorBlanco);
+        if (!SprResulprucargada.Celda(f, 1).isEmpty())
+            SprResulprucargada.SetBackColor(f, 1, ColorBlanco);
+        if (Val(SprResulprucargada.Celda(f, 6)) < 4)
+            SprResulprucargada.SetBackColor(f, 6, ColorBlanco);
     }
     Recordset sin_forma = Base().OpenRecordset(
-        QStringLiteral(" select distinct rut_alumno From respuesta_alumnos_por_rut  Where idprueba = ? and forma = 99"),
+        QStringLiteral(" select distinct rut_alumno From respuesta_alumnos_por_rut  Where idprueba "
+                       "= ? and forma = 99"),
         {idprueba});
     for (; !sin_forma.Eof(); sin_forma.MoveNext()) {
         Fnc_Nombre_Alumno(sin_forma[0].toString(), descarte);
@@ -188,8 +206,9 @@ void frmCorrecPru::Carga_Detalle_Prueba(int16_t idprueba) {
 void frmCorrecPru::Trae_Notas_Alumno(const QString& rut) {
     Grilla& g = SprResulprucargada;
     const int fila = g.MaxRows();
-    Recordset rs = Base().OpenRecordset(QStringLiteral("SELECT * FROM ResultadoAlumnos_rj where rut = ? and idprueba = ?"),
-                                        {rut, estado().Id_Prueba_Actual});
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral("SELECT * FROM ResultadoAlumnos_rj where rut = ? and idprueba = ?"),
+        {rut, estado().Id_Prueba_Actual});
     for (; !rs.Eof(); rs.MoveNext()) {
         const int buenas = rs[QStringLiteral("Buenas")].toInt();
         const int malas = rs[QStringLiteral("Malas")].toInt();
@@ -234,9 +253,11 @@ void frmCorrecPru::SprResulprucargada_DblClick(int fila) {
     if (!g.Celda(fila, 6).isEmpty() && Val(g.Celda(fila, 6)) == 99) {
         e.Fila_Enmienda = fila;
         e.Rut_Actual = g.Celda(fila, 1);
-        dialogos().MsgBox(Lineas({QStringLiteral("El alumno :"), e.Rut_Actual,
-                                  QStringLiteral("esta sin FORMA, favor marque la forma correcta y repita el proceso")}),
-                          vbInformation, QStringLiteral("Notas Alumnos"));
+        dialogos().MsgBox(
+            Lineas({QStringLiteral("El alumno :"), e.Rut_Actual,
+                    QStringLiteral(
+                        "esta sin FORMA, favor marque la forma correcta y repita el proceso")}),
+            vbInformation, QStringLiteral("Notas Alumnos"));
     }
 }
 
@@ -244,21 +265,20 @@ void frmCorrecPru::Elimina_Prueba() {
     const int16_t id = estado().Id_Prueba_Actual;
     if (id == 0) return;
     if (fila_principal_ < 1 || SprPrincipal.Celda(fila_principal_, 1).isEmpty()) {
-        dialogos().MsgBox(QStringLiteral("Debe seleccionar una prueba para poder eliminar"), vbCritical,
-                          QStringLiteral("Elimina Prueba"));
+        dialogos().MsgBox(QStringLiteral("Debe seleccionar una prueba para poder eliminar"),
+                          vbCritical, QStringLiteral("Elimina Prueba"));
         return;
     }
-    Base().BeginTrans();
-    try {
-        for (const char* tabla : {"prueba_rj", "Resp_preguntas_pautas", "respuesta_alumnos_por_rut", "ResultadoAlumnos_rj"})
-            Base().Execute(QStringLiteral("DELETE FROM %1 WHERE IdPrueba = ?").arg(QString::fromUtf8(tabla)), {id});
-        Base().CommitTrans();
-    } catch (...) {
-        Base().Rollback();
-        throw;
-    }
-    dialogos().MsgBox(QStringLiteral("La prueba Nº ") + CStr(int(id)) + QStringLiteral(" ha sido eliminada"), vbOKOnly,
-                      QStringLiteral("Registro eliminado"));
+    Transaccion t(Base());
+    for (const char* tabla :
+         {"prueba_rj", "Resp_preguntas_pautas", "respuesta_alumnos_por_rut", "ResultadoAlumnos_rj"})
+        Base().Execute(
+            QStringLiteral("DELETE FROM %1 WHERE IdPrueba = ?").arg(QString::fromUtf8(tabla)),
+            {id});
+    t.Confirma();
+    dialogos().MsgBox(
+        QStringLiteral("La prueba Nº ") + CStr(int(id)) + QStringLiteral(" ha sido eliminada"),
+        vbOKOnly, QStringLiteral("Registro eliminado"));
     Limpia_Etiquetas();
     SprPrincipal.SetMaxRows(0);
     SprResulprucargada.SetMaxRows(0);
@@ -267,8 +287,9 @@ void frmCorrecPru::Elimina_Prueba() {
 
 void frmCorrecPru::XPButton1_Click() {
     Estado& e = estado();
-    const int r = dialogos().MsgBox(QStringLiteral("Desea copiar esta prueba ") + e.Nombre_Prueba_Actual,
-                                    vbOKCancel + vbInformation, QStringLiteral("Copia Prueba"));
+    const int r =
+        dialogos().MsgBox(QStringLiteral("Desea copiar esta prueba ") + e.Nombre_Prueba_Actual,
+                          vbOKCancel + vbInformation, QStringLiteral("Copia Prueba"));
     e.Copia_Activa = false;
     if (r != vbOK) return;
     e.Copia_Activa = true;

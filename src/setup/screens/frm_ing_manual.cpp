@@ -21,12 +21,14 @@
 
 namespace {
 
-BaseDatos& Base() { return *estado().BaseDatos; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
 
 // The labels of the screen and the columns of the list row they take.
-const std::pair<const char*, int> kEtiquetas[] = {{"LblCorrelativo", 1}, {"LblProfesor", 3}, {"LblCurso", 4},
-                                                  {"LblTipPru", 5},      {"LblAsig", 7},     {"LblFormas", 9},
-                                                  {"LblNAlternativa", 10}};
+const std::pair<const char*, int> kEtiquetas[] = {
+    {"LblCorrelativo", 1}, {"LblProfesor", 3}, {"LblCurso", 4},        {"LblTipPru", 5},
+    {"LblAsig", 7},        {"LblFormas", 9},   {"LblNAlternativa", 10}};
 
 // What Carga_Ingreso_Manual hands to the screen.
 QMap<QString, QString>& Datos_Ingreso() {
@@ -42,7 +44,8 @@ void Carga_Ingreso_Manual() {
     datos[QStringLiteral("CmbNunPreg")] = CStr(int(estado().Preguntas_Actual));
     if (auto* lista = qobject_cast<frmCorrecPru*>(Pantalla_Abierta(QStringLiteral("frmCorrecPru"))))
         for (const auto& [etiqueta, columna] : kEtiquetas)
-            datos[QString::fromUtf8(etiqueta)] = lista->SprPrincipal.Celda(lista->Fila_Seleccionada(), columna);
+            datos[QString::fromUtf8(etiqueta)] =
+                lista->SprPrincipal.Celda(lista->Fila_Seleccionada(), columna);
     Descarga_Pantalla(QStringLiteral("frmCorrecPru"));
     Descarga_Pantalla(QStringLiteral("FrmGenePru"));
 }
@@ -51,8 +54,8 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FrmIngManual"));
     setWindowTitle(QStringLiteral("Ingreso manual"));
     auto* datos = new QFormLayout;
-    static const char* const kTitulos[] = {"Nº Prueba", "Profesor", "Curso", "Tipo Prueba", "Asignatura",
-                                           "Formas", "Nº Alternativas"};
+    static const char* const kTitulos[] = {
+        "Nº Prueba", "Profesor", "Curso", "Tipo Prueba", "Asignatura", "Formas", "Nº Alternativas"};
     int i = 0;
     for (const auto& [etiqueta, columna] : kEtiquetas) {
         auto* l = new QLabel(Datos_Ingreso().value(QString::fromUtf8(etiqueta)), this);
@@ -72,13 +75,18 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
     modelo->Editable(2);
     vista->setModel(modelo);
     vista->setItemDelegateForColumn(
-        1, new CeldaLista([] { return estado().Lista_Alternativas.split(QLatin1Char('\t'), Qt::SkipEmptyParts); }, vista));
+        1,
+        new CeldaLista(
+            [] { return estado().Lista_Alternativas.split(QLatin1Char('\t'), Qt::SkipEmptyParts); },
+            vista));
     vista->setEditTriggers(QAbstractItemView::AllEditTriggers);
     vista->verticalHeader()->setVisible(false);
     vista->verticalHeader()->setDefaultSectionSize(22);
     vista->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    XPButAceptar = Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Grabar"), [this] { XPButAceptar_Click(); });
-    auto* cancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"), [this] { close(); });
+    XPButAceptar = Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Grabar"),
+                         [this] { XPButAceptar_Click(); });
+    auto* cancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
+                           [this] { close(); });
     datos->addRow(XPButAceptar, cancelar);
     auto* capa = new QHBoxLayout(this);
     capa->addWidget(vista, 1);
@@ -87,13 +95,16 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
     Form_Load();
 }
 
-QLabel* FrmIngManual::Etiqueta(const QString& nombre) const { return findChild<QLabel*>(nombre); }
+QLabel* FrmIngManual::Etiqueta(const QString& nombre) const {
+    return findChild<QLabel*>(nombre);
+}
 
 void FrmIngManual::Form_Load() {
     const Estado& e = estado();
     if (e.Id_Prueba_Actual == 0) {
-        dialogos().MsgBox(QStringLiteral("Debe tener asociado un Numero de Prueba para el Ingreso manual"), vbCritical,
-                          QStringLiteral("Ingreso manual de Pruebas"));
+        dialogos().MsgBox(
+            QStringLiteral("Debe tener asociado un Numero de Prueba para el Ingreso manual"),
+            vbCritical, QStringLiteral("Ingreso manual de Pruebas"));
         return;
     }
     SprAlterPreg.SetMaxRows(e.Preguntas_Actual);
@@ -111,29 +122,34 @@ void FrmIngManual::Carga_Alternativas_Combo() {
         for (int i = 0; i < n; ++i) letras << kLetras.mid(i, 1);
         estado().Lista_Alternativas = letras.join(QLatin1Char('\t'));
     }
-    for (int fila = 1; fila <= SprAlterPreg.MaxRows(); ++fila) SprAlterPreg.FijaCelda(fila, 1, CStr(fila));
+    for (int fila = 1; fila <= SprAlterPreg.MaxRows(); ++fila)
+        SprAlterPreg.FijaCelda(fila, 1, CStr(fila));
 }
 
 void FrmIngManual::XPButAceptar_Click() {
     Estado& e = estado();
     if (CmbNFormas->currentText().isEmpty()) {
-        dialogos().MsgBox(QStringLiteral("Debe selecionar una forma, verifique"), vbCritical, QStringLiteral("Ingreso Manual"));
+        dialogos().MsgBox(QStringLiteral("Debe selecionar una forma, verifique"), vbCritical,
+                          QStringLiteral("Ingreso Manual"));
         return;
     }
     for (int fila = 1; fila <= SprAlterPreg.MaxRows(); ++fila)
         if (SprAlterPreg.Celda(fila, 2).isEmpty()) {
-            dialogos().MsgBox(QStringLiteral("Existen alternativas en Blanco, verifique"), vbCritical,
-                              QStringLiteral("Ingreso Manual"));
+            dialogos().MsgBox(QStringLiteral("Existen alternativas en Blanco, verifique"),
+                              vbCritical, QStringLiteral("Ingreso Manual"));
             return;
         }
     const int16_t forma = CInt(Val(CmbNFormas->currentText()));
     e.Numero_Formas_Actual = forma;
-    if (dialogos().MsgBox(QStringLiteral("Desea grabar los datos...?"), vbOKCancel, QStringLiteral("Graba Pauta Manual")) != vbOK)
+    if (dialogos().MsgBox(QStringLiteral("Desea grabar los datos...?"), vbOKCancel,
+                          QStringLiteral("Graba Pauta Manual")) != vbOK)
         return;
     Graba_Pauta(forma);
-    Base().Execute(QStringLiteral("update prueba_rj set ingreso_pauta = 'S' Where IDPRUEBA = ?"), {e.Id_Prueba_Actual});
+    Base().Execute(QStringLiteral("update prueba_rj set ingreso_pauta = 'S' Where IDPRUEBA = ?"),
+                   {e.Id_Prueba_Actual});
     Descarga_Pantalla(QStringLiteral("frmCorrecPru"));
-    dialogos().MsgBox(QStringLiteral("La pauta manual para la prueba ") + CStr(int(e.Id_Prueba_Actual)) +
+    dialogos().MsgBox(QStringLiteral("La pauta manual para la prueba ") +
+                          CStr(int(e.Id_Prueba_Actual)) +
                           QStringLiteral(" ha sido grabado con éxito"),
                       vbOKOnly, QStringLiteral("Graba Pauta Manual"));
     close();
@@ -141,22 +157,26 @@ void FrmIngManual::XPButAceptar_Click() {
 
 void FrmIngManual::Graba_Pauta(int16_t forma) {
     const int16_t id = estado().Id_Prueba_Actual;
-    const bool existe = !Base().OpenRecordset(
-        QStringLiteral(" SELECT * FROM Resp_preguntas_pautas  Where IDPRUEBA = ? AND FORMA = ?"), {id, forma}).Eof();
-    if (existe && dialogos().MsgBox(QStringLiteral("Esto Código de Prueba y Forma ya existe, desea regrabar los datos"),
-                                    vbOKCancel + vbCritical, QStringLiteral("Creación de Pautas y Pruebas")) != vbOK)
+    const bool existe =
+        !Base()
+             .OpenRecordset(
+                 QStringLiteral(
+                     " SELECT * FROM Resp_preguntas_pautas  Where IDPRUEBA = ? AND FORMA = ?"),
+                 {id, forma})
+             .Eof();
+    if (existe &&
+        dialogos().MsgBox(
+            QStringLiteral("Esto Código de Prueba y Forma ya existe, desea regrabar los datos"),
+            vbOKCancel + vbCritical, QStringLiteral("Creación de Pautas y Pruebas")) != vbOK)
         return;
-    Base().BeginTrans();
-    try {
-        if (existe)
-            Base().Execute(QStringLiteral(" delete FROM Resp_preguntas_pautas  Where IDPRUEBA = ? AND FORMA = ?"),
-                           {id, forma});
-        for (int fila = 1; fila <= SprAlterPreg.MaxRows(); ++fila)
-            Base().Execute(QStringLiteral(" insert into Resp_preguntas_pautas values (?, ?, ?, ?)"),
-                           {id, fila, forma, QStringLiteral("ABCDE").indexOf(SprAlterPreg.Celda(fila, 2)) + 1});
-        Base().CommitTrans();
-    } catch (...) {
-        Base().Rollback();
-        throw;
-    }
+    Transaccion t(Base());
+    if (existe)
+        Base().Execute(
+            QStringLiteral(" delete FROM Resp_preguntas_pautas  Where IDPRUEBA = ? AND FORMA = ?"),
+            {id, forma});
+    for (int fila = 1; fila <= SprAlterPreg.MaxRows(); ++fila)
+        Base().Execute(
+            QStringLiteral(" insert into Resp_preguntas_pautas values (?, ?, ?, ?)"),
+            {id, fila, forma, QStringLiteral("ABCDE").indexOf(SprAlterPreg.Celda(fila, 2)) + 1});
+    t.Confirma();
 }
