@@ -30,8 +30,8 @@ const std::map<QString, Subcomando>& subcomandos() {
     return tabla;
 }
 
-int Muestra_Uso() {
-    QTextStream err(stderr);
+int Muestra_Uso(FILE* destino = stderr) {
+    QTextStream err(destino);
     err << "Uso: zorta [SUBCOMANDO] [OPCIONES]\n"
            "Sin subcomando abre la aplicación de escritorio.\n\nSubcomandos:\n";
     for (const auto& [nombre, s] : subcomandos()) err << "  " << nombre << "\t" << s.ayuda << "\n";
@@ -42,7 +42,13 @@ int Muestra_Uso() {
 
 int Ejecuta_Cli(const QStringList& args) {
     const auto it = subcomandos().find(args.value(0));
-    if (it == subcomandos().end()) return Muestra_Uso();
+    if (it == subcomandos().end()) {
+        const bool ayuda =
+            args.value(0) == QLatin1String("--help") || args.value(0) == QLatin1String("-h");
+        if (!ayuda) return Muestra_Uso();
+        Muestra_Uso(stdout);
+        return 0;
+    }
     // An unexpected failure ends the command with its words, never with a crash; what was
     // stored before it stays stored.
     try {
