@@ -1,18 +1,21 @@
 // The main window: its caption, its menu and the closing question.
+#include "app/screens/mdi_main.h"
+
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QMdiArea>
 #include <QMenuBar>
 
 #include "app/estado.h"
 #include "app/menu_principal.h"
-#include "app/screens/mdi_main.h"
 #include "support/base_temporal.h"
 
 namespace {
 
 class Principal : public BaseTemporal {
-protected:
+  protected:
     void SetUp() override {
         BaseTemporal::SetUp();
         ASSERT_TRUE(Arranca());
@@ -49,8 +52,8 @@ TEST_F(Principal, MenuBarInOrderWithHiddenEntriesHidden) {
     QStringList visibles;
     for (QAction* a : m.menuBar()->actions())
         if (a->isVisible()) visibles << a->text();
-    EXPECT_EQ(visibles, QStringList({"Archivo", "Resumen General", "Prueba Cargada", "Resultados Guardados",
-                                     "Utilidades", "Base de Datos"}));
+    EXPECT_EQ(visibles, QStringList({"Archivo", "Resumen General", "Prueba Cargada",
+                                     "Resultados Guardados", "Utilidades", "Base de Datos"}));
     for (const EntradaMenu& e : Menu_Principal()) {
         QAction* a = m.Accion(e.control);
         ASSERT_NE(a, nullptr) << e.control.toStdString();
@@ -70,7 +73,8 @@ TEST_F(Principal, TestListIsOneInstanceBroughtToTheFront) {
     EXPECT_EQ(primera->windowTitle(), "Resumen Pruebas Ingresadas.");
     m.Accion("mnu_enc_abierta")->trigger();
     EXPECT_EQ(m.Muestra_Pantalla("frmCorrecPru"), primera);
-    EXPECT_FALSE(m.Accion("Mnu_Analisis_Curso")->isEnabled()) << "a screen not built yet is present and disabled";
+    EXPECT_FALSE(m.Accion("Mnu_Analisis_Curso")->isEnabled())
+        << "a screen not built yet is present and disabled";
 }
 
 TEST_F(Principal, EachCommandSetsItsFlagsBeforeItsScreen) {
@@ -81,7 +85,8 @@ TEST_F(Principal, EachCommandSetsItsFlagsBeforeItsScreen) {
     };
     // The reading screen opens once, without a current test: its opening says so.
     guion->Espera("Analisis Cualitativo");
-    for (const Caso& c : {Caso{"nme_nue_correc", false, true, false}, Caso{"mnu_agre_actual", false, true, true}}) {
+    for (const Caso& c :
+         {Caso{"nme_nue_correc", false, true, false}, Caso{"mnu_agre_actual", false, true, true}}) {
         estado().Seteo_Hoja = true;
         m.Ejecuta(c.control);
         EXPECT_EQ(estado().Seteo_Hoja, c.seteo) << c.control;
@@ -105,7 +110,11 @@ TEST_F(Principal, ScoreTableFlagsFollowTheLastCommand) {
     MdiMain m;
     const auto banderas = [] {
         const Estado& e = estado();
-        return QString("%1%2%3%4").arg(e.Mant_PSU).arg(e.Mant_SIMCE).arg(e.Puntajes_PSU).arg(e.Puntajes_SIMCE);
+        return QString("%1%2%3%4")
+            .arg(e.Mant_PSU)
+            .arg(e.Mant_SIMCE)
+            .arg(e.Puntajes_PSU)
+            .arg(e.Puntajes_SIMCE);
     };
     m.Ejecuta("MnuSimce1");
     EXPECT_EQ(banderas(), "0100");
@@ -120,7 +129,8 @@ TEST_F(Principal, ScoreTableFlagsFollowTheLastCommand) {
 }
 
 TEST_F(Principal, WebLinksAndSharedScreens) {
-    for (const char* c : {"Mnu_Corrector", "Mnu_hojas", "Mnu_Funciona", "Mnu_Corregir", "Mnu_Imprime_Hoja"})
+    for (const char* c :
+         {"Mnu_Corrector", "Mnu_hojas", "Mnu_Funciona", "Mnu_Corregir", "Mnu_Imprime_Hoja"})
         EXPECT_TRUE(MdiMain::Enlace(c).startsWith("https://")) << c;
     EXPECT_TRUE(MdiMain::Enlace("mnu_alum").isEmpty());
     QMap<QString, QString> pantalla;
@@ -133,4 +143,18 @@ TEST_F(Principal, WebLinksAndSharedScreens) {
     EXPECT_EQ(m.Pantalla("ACERCA_de")->windowTitle(), "Acerca de...");
     m.Descarga("ACERCA_de");
     EXPECT_EQ(m.Pantalla("ACERCA_de"), nullptr);
+}
+
+TEST_F(Principal, AScreenThatClosesItselfLeavesNoEmptyFrame) {
+    MdiMain m;
+    m.show();
+    QWidget* acerca = m.Muestra_Pantalla("ACERCA_de");
+    ASSERT_NE(acerca, nullptr);
+    acerca->close();
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(m.Pantalla("ACERCA_de"), nullptr);
+    EXPECT_TRUE(m.findChild<QMdiArea*>()->subWindowList().isEmpty());
 }

@@ -202,9 +202,25 @@ QWidget* MdiMain::Muestra_Pantalla(const QString& nombre) {
     QMdiSubWindow* sub = area_->addSubWindow(pantalla);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     abiertas_[nombre] = sub;
+    pantalla->installEventFilter(this);
     sub->show();
     sub->resize(sub->size() - pantalla->size() + tamano);
     return pantalla;
+}
+
+bool MdiMain::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::Close) {
+        QPointer<QWidget> pantalla = qobject_cast<QWidget*>(objeto);
+        if (auto* sub = qobject_cast<QMdiSubWindow*>(pantalla ? pantalla->parentWidget() : nullptr))
+            // Looked at once the close is done: a screen that refused to close keeps its frame.
+            QMetaObject::invokeMethod(
+                sub,
+                [sub, pantalla] {
+                    if (sub->isVisible() && (!pantalla || !pantalla->isVisible())) sub->close();
+                },
+                Qt::QueuedConnection);
+    }
+    return QMainWindow::eventFilter(objeto, evento);
 }
 
 void MdiMain::mnu_salir_Click() {

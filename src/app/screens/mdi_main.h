@@ -37,6 +37,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    // A screen that closes itself takes its frame in the main window with it.
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void Construye_Menu();
