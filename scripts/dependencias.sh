@@ -5,7 +5,7 @@
 set -euo pipefail
 paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite qt6-charts-dev
           libxlsxwriter-dev libzip-dev libfreexl-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
-          xvfb xauth x11-apps imagemagick openbox fonts-dejavu-core locales)
+          xvfb xauth x11-apps xdotool imagemagick openbox fonts-dejavu-core locales)
 sudo=""
 [ "$(id -u)" -ne 0 ] && sudo="sudo"
 faltan=()
