@@ -21,8 +21,11 @@
 #include "masters/screens/frm_grises.h"
 #include "masters/screens/frm_habilidad.h"
 #include "masters/screens/frm_logros.h"
+#include "masters/screens/frm_mant_psu.h"
+#include "masters/screens/frm_mant_simce.h"
 #include "masters/screens/frm_nivel_eva.h"
 #include "masters/screens/frm_profesores.h"
+#include "masters/screens/frm_puntajes_psu.h"
 #include "masters/screens/frm_tab_eje_tema.h"
 #include "platform/dialogos.h"
 #include "platform/screens/navegacion.h"
@@ -61,6 +64,9 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmNivelEva")] = [] { return new FrmNivelEva; };
     fabricas_[QStringLiteral("Frm_Logros")] = [] { return new Frm_Logros; };
     fabricas_[QStringLiteral("Frm_Grises")] = [] { return new Frm_Grises; };
+    fabricas_[QStringLiteral("FrmMantPSU")] = [] { return new FrmMantPSU; };
+    fabricas_[QStringLiteral("frmPuntajesPSU")] = [] { return new frmPuntajesPSU; };
+    fabricas_[QStringLiteral("FrmMantSimce")] = [] { return new FrmMantSimce; };
     Construye_Menu();
     resize(1200, 800);
     navegacion().muestra = [this](const QString& n) { return Muestra_Pantalla(n); };
