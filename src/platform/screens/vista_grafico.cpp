@@ -1,0 +1,94 @@
+// Shows a Grafico with Qt Charts, and draws its picture for the spreadsheets.
+#include "platform/screens/vista_grafico.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QLineSeries>
+#include <QPainter>
+#include <QValueAxis>
+#include <algorithm>
+
+namespace {
+
+double Maximo(const Grafico& g) {
+    double m = 0;
+    for (const auto& fila : g.datos)
+        for (double v : fila) m = std::max(m, v);
+    return m;
+}
+
+QString Serie(const Grafico& g, size_t s) {
+    return static_cast<qsizetype>(s) < g.series.size() ? g.series[s] : QString();
+}
+
+void Agrega_Barras(QChart* chart, const Grafico& g, size_t series) {
+    auto* barras = new QBarSeries;
+    for (size_t s = 0; s < series; ++s) {
+        auto* conjunto = new QBarSet(Serie(g, s));
+        for (const auto& fila : g.datos) *conjunto << (s < fila.size() ? fila[s] : 0);
+        barras->append(conjunto);
+    }
+    chart->addSeries(barras);
+}
+
+void Agrega_Lineas(QChart* chart, const Grafico& g, size_t series) {
+    for (size_t s = 0; s < series; ++s) {
+        auto* linea = new QLineSeries;
+        linea->setName(Serie(g, s));
+        for (size_t i = 0; i < g.datos.size(); ++i)
+            linea->append(static_cast<double>(i), s < g.datos[i].size() ? g.datos[i][s] : 0);
+        chart->addSeries(linea);
+    }
+}
+
+QImage Dibuja(const Grafico& g, QSize tamano) {
+    QChartView vista(Arma_Grafico(g));
+    vista.resize(tamano);
+    QImage imagen(tamano, QImage::Format_ARGB32);
+    imagen.fill(Qt::white);
+    QPainter pintor(&imagen);
+    vista.render(&pintor);
+    return imagen;
+}
+
+}  // namespace
+
+QChart* Arma_Grafico(const Grafico& g) {
+    auto* chart = new QChart;
+    size_t series = 0;
+    for (const auto& fila : g.datos) series = std::max(series, fila.size());
+    if (g.chartType == GraficoLineas2D)
+        Agrega_Lineas(chart, g, series);
+    else
+        Agrega_Barras(chart, g, series);
+    auto* x = new QBarCategoryAxis;
+    x->append(g.etiquetas);
+    auto* y = new QValueAxis;
+    y->setRange(0, std::max(1.0, Maximo(g)));
+    y->setLabelFormat(QStringLiteral("%g"));
+    chart->addAxis(x, Qt::AlignBottom);
+    chart->addAxis(y, Qt::AlignLeft);
+    for (QAbstractSeries* s : chart->series()) {
+        s->attachAxis(x);
+        s->attachAxis(y);
+    }
+    chart->legend()->setVisible(g.series.size() > 1);
+    return chart;
+}
+
+VistaGrafico::VistaGrafico(Grafico& grafico, QWidget* padre)
+    : QChartView(padre), grafico_(grafico) {
+    Instala_Dibujo_Graficos(Dibuja);
+    setRenderHint(QPainter::Antialiasing);
+    setChart(Arma_Grafico(grafico_));
+    grafico_.al_refrescar = [this] {
+        QChart* viejo = chart();
+        setChart(Arma_Grafico(grafico_));
+        delete viejo;
+    };
+}
+
+VistaGrafico::~VistaGrafico() {
+    grafico_.al_refrescar = nullptr;
+}
