@@ -14,9 +14,11 @@
 #include "app/menu_principal.h"
 #include "app/screens/acerca_de.h"
 #include "grading/screens/frm_correc_pru.h"
+#include "grading/screens/frm_mod_nota.h"
 #include "grading/screens/frm_modf_rut.h"
 #include "masters/screens/frm_alumnos.h"
 #include "masters/screens/frm_asignatura.h"
+#include "masters/screens/frm_clean_base.h"
 #include "masters/screens/frm_cursos.h"
 #include "masters/screens/frm_grises.h"
 #include "masters/screens/frm_habilidad.h"
@@ -64,6 +66,8 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmNivelEva")] = [] { return new FrmNivelEva; };
     fabricas_[QStringLiteral("Frm_Logros")] = [] { return new Frm_Logros; };
     fabricas_[QStringLiteral("Frm_Grises")] = [] { return new Frm_Grises; };
+    fabricas_[QStringLiteral("Frm_Mod_Nota")] = [] { return new Frm_Mod_Nota; };
+    fabricas_[QStringLiteral("FrmCleanBase")] = [] { return new FrmCleanBase; };
     fabricas_[QStringLiteral("FrmMantPSU")] = [] { return new FrmMantPSU; };
     fabricas_[QStringLiteral("frmPuntajesPSU")] = [] { return new frmPuntajesPSU; };
     fabricas_[QStringLiteral("FrmMantSimce")] = [] { return new FrmMantSimce; };
