@@ -83,7 +83,10 @@ class Escritor {
         Verifica(e);
     }
 
+    // A merged single cell is a plain cell in the file.
     void Une(lxw_worksheet* h, const Area& u, const CeldaHoja& c) {
+        if (u.fila1 == u.fila2 && u.columna1 == u.columna2)
+            return Celda(h, u.fila1 - 1, u.columna1 - 1, c);
         lxw_format* f = Formato(c);
         Verifica(worksheet_merge_range(h, u.fila1 - 1, u.columna1 - 1, u.fila2 - 1, u.columna2 - 1,
                                        "", f));

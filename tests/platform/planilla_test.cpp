@@ -69,6 +69,7 @@ TEST(Planilla, ArchivoEscrito) {
         .Font_FontStyle(QStringLiteral("Arial"))
         .Merge()
         .Value(QStringLiteral("BUENAS"));
+    hoja.Range(QStringLiteral("A1:A1")).Merge().Value(QStringLiteral("CURSO"));
     hoja.Cells(3, 1).Value(7);
     hoja.Cells(3, 2).Value(QStringLiteral("33.33 %"));
     hoja.Range(QStringLiteral("D:D")).ColumnWidth(50);
@@ -77,6 +78,7 @@ TEST(Planilla, ArchivoEscrito) {
     libro.Close(true, ruta);
 
     const PlanillaLectura l = PlanillaLectura::Abre(ruta);
+    EXPECT_EQ(l.Celda(1, "A"), "CURSO");  // a merged single cell
     EXPECT_EQ(l.Celda(1, "B"), "BUENAS");
     EXPECT_EQ(l.Celda(3, "A"), "7");
     EXPECT_EQ(l.Celda(3, "B"), "33.33 %");

@@ -10,6 +10,7 @@
 #include <QUrl>
 #include <memory>
 
+#include "analysis/screens/frm_analisis_cua.h"
 #include "app/estado.h"
 #include "app/menu_principal.h"
 #include "app/screens/acerca_de.h"
@@ -67,6 +68,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmNivelEva")] = [] { return new FrmNivelEva; };
     fabricas_[QStringLiteral("Frm_Logros")] = [] { return new Frm_Logros; };
     fabricas_[QStringLiteral("Frm_Grises")] = [] { return new Frm_Grises; };
+    fabricas_[QStringLiteral("FrmAnalisis_Cua")] = [] { return new FrmAnalisis_Cua; };
     fabricas_[QStringLiteral("Frm_Mod_Nota")] = [] { return new Frm_Mod_Nota; };
     fabricas_[QStringLiteral("Frm_Correccion")] = [] { return new Frm_Correccion; };
     fabricas_[QStringLiteral("FrmCleanBase")] = [] { return new FrmCleanBase; };
