@@ -16,6 +16,7 @@
 #include "app/screens/acerca_de.h"
 #include "grading/screens/frm_correc_pru.h"
 #include "grading/screens/frm_correccion.h"
+#include "grading/screens/frm_eva_correcion.h"
 #include "grading/screens/frm_mod_nota.h"
 #include "grading/screens/frm_modf_rut.h"
 #include "masters/screens/frm_alumnos.h"
@@ -71,6 +72,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmAnalisis_Cua")] = [] { return new FrmAnalisis_Cua; };
     fabricas_[QStringLiteral("Frm_Mod_Nota")] = [] { return new Frm_Mod_Nota; };
     fabricas_[QStringLiteral("Frm_Correccion")] = [] { return new Frm_Correccion; };
+    fabricas_[QStringLiteral("FrmEvaCorrecion")] = [] { return new FrmEvaCorrecion; };
     fabricas_[QStringLiteral("FrmCleanBase")] = [] { return new FrmCleanBase; };
     fabricas_[QStringLiteral("FrmMantPSU")] = [] { return new FrmMantPSU; };
     fabricas_[QStringLiteral("frmPuntajesPSU")] = [] { return new frmPuntajesPSU; };
