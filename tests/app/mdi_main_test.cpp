@@ -100,6 +100,7 @@ TEST_F(Principal, EachCommandSetsItsFlagsBeforeItsScreen) {
     EXPECT_EQ(estado().Tipo_Analisis, "HABILIDAD");
     m.Ejecuta("Mnu_Eje");
     EXPECT_EQ(estado().Tipo_Analisis, "EJE TEMATICO");
+    guion->Espera("Modificación de Alternativas...");  // its screen opens on no test
     m.Ejecuta("Mnu_Eliminar");
     EXPECT_EQ(estado().Modo_Correccion, "Eliminacion");
     m.Ejecuta("Mnu_Correccion");
