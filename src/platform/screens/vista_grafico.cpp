@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QValueAxis>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -64,8 +65,16 @@ QChart* Arma_Grafico(const Grafico& g) {
         Agrega_Barras(chart, g, series);
     auto* x = new QBarCategoryAxis;
     x->append(g.etiquetas);
+    // Band labels such as "1.00 - 1.50" stand upright in a small type, so they stay whole.
+    x->setLabelsAngle(-90);
+    QFont letra = x->labelsFont();
+    letra.setPointSize(7);
+    x->setLabelsFont(letra);
     auto* y = new QValueAxis;
-    y->setRange(0, std::max(1.0, Maximo(g)));
+    // Counts of students: whole steps on the value axis.
+    const double tope = std::max(1.0, std::ceil(Maximo(g)));
+    y->setRange(0, tope);
+    y->setTickCount(std::min(11, int(tope) + 1));
     y->setLabelFormat(QStringLiteral("%g"));
     chart->addAxis(x, Qt::AlignBottom);
     chart->addAxis(y, Qt::AlignLeft);
