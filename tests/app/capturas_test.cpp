@@ -33,7 +33,6 @@ protected:
         ASSERT_TRUE(Arranca());
         Llena();
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     void Llena() {
         Ejecuta("insert into Profesores values ('Ana Díaz Rojas', '1')");
         Ejecuta("insert into Asignaturas values (1, 'Historia y Geografía')");

@@ -19,7 +19,6 @@ protected:
         estado() = Estado{};
         return Arranca();
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
 };
 
 }  // namespace

@@ -23,7 +23,6 @@ protected:
         Pauta(1, QString(30, '1'));
         Pauta(2, QString(30, '2'));
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     void Pauta(int forma, const QString& codigos) {
         for (int i = 0; i < codigos.size(); ++i)
             Ejecuta("insert into Resp_preguntas_pautas values (5, ?, ?, ?)", {i + 1, forma, codigos.mid(i, 1)});

@@ -33,7 +33,6 @@ protected:
         navegacion() = Navegacion{};
         BaseTemporal::TearDown();
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     QStringList Fila(const Grilla& g, int f, int hasta) {
         QStringList c;
         for (int i = 1; i <= hasta; ++i) c << g.Celda(f, i);

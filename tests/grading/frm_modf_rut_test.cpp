@@ -33,7 +33,6 @@ protected:
         resumen.FijaCelda(1, 7, "12345678-4");
         resumen.FijaCelda(1, 8, "RM");
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     QString Fila(const QString& rut) {
         return Valor("select Buenas || '/' || Malas || '/' || Omitidas || '/' || Nulas || '/' || Nota || '/' || "
                      "Porcentaje || '/' || Forma from ResultadoAlumnos_rj where rut = ?",

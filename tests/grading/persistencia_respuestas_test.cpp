@@ -19,7 +19,6 @@ protected:
         Ejecuta("insert into prueba_rj (IdPrueba, NombrePrueba, Numero_Forma, Pregunta_Seleccion, ingreso_pauta) "
                 "values (5, 'Ciencias', 2, 4, 'N')");
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     // Puts a sheet in work: its rut, form and letters.
     void Hoja(const QString& rut, const QString& forma, const QStringList& letras) {
         c.TxtRut = rut;

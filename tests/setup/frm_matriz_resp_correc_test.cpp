@@ -26,7 +26,6 @@ protected:
         const int codigos[] = {7, 2, 9, 6};
         for (int p = 1; p <= 4; ++p) Ejecuta("insert into Resp_preguntas_pautas values (5, ?, 1, ?)", {p, codigos[p - 1]});
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     static QString Columna(const Grilla& g, int c) {
         QStringList v;
         for (int f = 1; f <= g.MaxRows(); ++f) v << g.Celda(f, c);

@@ -30,7 +30,6 @@ protected:
         navegacion() = Navegacion{};
         BaseTemporal::TearDown();
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
     void Listas() {
         Ejecuta("insert into Profesores values ('Ana Díaz', '1')");
         Ejecuta("insert into Asignaturas values (1, 'Historia')");

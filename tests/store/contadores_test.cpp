@@ -16,7 +16,6 @@ protected:
         BaseTemporal::SetUp();
         ASSERT_TRUE(Arranca());
     }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) { estado().BaseDatos->Execute(sql, p); }
 };
 
 }  // namespace

@@ -26,6 +26,10 @@ bool BaseTemporal::Arranca() { return MDIForm_Load(); }
 
 QString BaseTemporal::Ruta(const QString& nombre) const { return QDir(carpeta.path()).filePath(nombre); }
 
+void BaseTemporal::Ejecuta(const QString& sql, const QVariantList& parametros) {
+    estado().BaseDatos->Execute(sql, parametros);
+}
+
 QVariant BaseTemporal::Valor(const QString& sql, const QVariantList& parametros) {
     Recordset rs = estado().BaseDatos->OpenRecordset(sql, parametros);
     return rs.Eof() ? QVariant() : rs[0];

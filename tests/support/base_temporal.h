@@ -15,6 +15,8 @@ protected:
     // Runs the start-up on the data folder; the test scripts its boxes before.
     bool Arranca();
     QString Ruta(const QString& nombre) const;
+    // Runs one statement on the open store.
+    void Ejecuta(const QString& sql, const QVariantList& parametros = {});
     // One value of the first row of a query on the open store.
     QVariant Valor(const QString& sql, const QVariantList& parametros = {});
 
