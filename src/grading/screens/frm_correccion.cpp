@@ -15,11 +15,11 @@
 #include "app/estado.h"
 #include "grading/enmienda_notas.h"
 #include "grading/persistencia_respuestas.h"
+#include "grading/screens/piezas.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
-#include "platform/screens/grilla_modelo.h"
 
 namespace {
 
@@ -32,23 +32,6 @@ BaseDatos& Base() {
 }
 int16_t Id() {
     return estado().Id_Prueba_Actual;
-}
-
-QTableView* Vista(Grilla& g, QWidget* padre) {
-    auto* v = new QTableView(padre);
-    v->setModel(new GrillaModelo(g, v));
-    v->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    v->verticalHeader()->setDefaultSectionSize(22);
-    return v;
-}
-
-QPushButton* Boton(QWidget* padre, const QString& nombre, const QString& texto,
-                   std::function<void()> comando) {
-    auto* b = new QPushButton(texto, padre);
-    b->setObjectName(nombre);
-    QObject::connect(b, &QPushButton::clicked, padre,
-                     [comando = std::move(comando)] { Ejecutar_Comando(comando); });
-    return b;
 }
 
 }  // namespace
@@ -71,12 +54,12 @@ void Frm_Correccion::Construye() {
     Lbl_Asignatura = new QLabel(this);
     Lbl_Ajuste_40 = new QLabel(this);
     Lst_Eliminadas = new QListWidget(this);
-    XPButton1 = Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Recorregir"),
-                      [this] { Recorrige_Pruebas(); });
-    XPButton2 = Boton(this, QStringLiteral("XPButton2"), QStringLiteral("Grabar"),
-                      [this] { XPButton2_Click(); });
-    auto* cancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                           [this] { close(); });
+    XPButton1 = Boton_Orden(this, QStringLiteral("XPButton1"), QStringLiteral("Recorregir"),
+                            [this] { Recorrige_Pruebas(); });
+    XPButton2 = Boton_Orden(this, QStringLiteral("XPButton2"), QStringLiteral("Grabar"),
+                            [this] { XPButton2_Click(); });
+    auto* cancelar = Boton_Orden(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
+                                 [this] { close(); });
     auto* datos = new QFormLayout;
     datos->addRow(QStringLiteral("Prueba:"), LblNombrePrueba);
     datos->addRow(QStringLiteral("Asignatura:"), Lbl_Asignatura);
@@ -87,10 +70,10 @@ void Frm_Correccion::Construye() {
     datos->addRow(XPButton1);
     datos->addRow(XPButton2);
     datos->addRow(cancelar);
-    auto* pauta = Vista(Spr_Respuestas, this);
+    auto* pauta = Vista_Lectura(Spr_Respuestas, this);
     auto* capa = new QHBoxLayout(this);
     capa->addWidget(pauta);
-    capa->addWidget(Vista(SprEvaCorrec, this), 1);
+    capa->addWidget(Vista_Lectura(SprEvaCorrec, this), 1);
     capa->addLayout(datos);
     connect(pauta, &QTableView::doubleClicked, this, [this](const QModelIndex& i) {
         Ejecutar_Comando([&] { Spr_Respuestas_DblClick(i.row() + 1); });

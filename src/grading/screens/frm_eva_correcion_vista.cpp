@@ -13,31 +13,13 @@
 #include "app/estado.h"
 #include "grading/enmienda_notas.h"
 #include "grading/screens/frm_eva_correcion.h"
+#include "grading/screens/piezas.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/planilla.h"
-#include "platform/screens/grilla_modelo.h"
 #include "platform/screens/impresion.h"
 
 namespace {
-
-QPushButton* Boton(QWidget* padre, const char* nombre, const QString& texto,
-                   std::function<void()> comando) {
-    auto* b = new QPushButton(texto, padre);
-    b->setObjectName(QString::fromUtf8(nombre));
-    QObject::connect(b, &QPushButton::clicked, padre,
-                     [comando = std::move(comando)] { Ejecutar_Comando(comando); });
-    return b;
-}
-
-QTableView* Vista(Grilla& g, QWidget* padre) {
-    auto* v = new QTableView(padre);
-    v->setModel(new GrillaModelo(g, v));
-    v->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    v->setSelectionBehavior(QAbstractItemView::SelectRows);
-    v->verticalHeader()->setDefaultSectionSize(22);
-    return v;
-}
 
 QLineEdit* Campo(QWidget* padre, const QString& texto) {
     auto* c = new QLineEdit(texto, padre);
@@ -67,16 +49,18 @@ void FrmEvaCorrecion::Construye() {
     Lbl_Desviacion = etiqueta(QStringLiteral("Desviación estándar:"));
     datos->addRow(Panel_Escala());
     datos->addRow(QStringLiteral("Alumno:"), CboAlumnos);
+    datos->addRow(Boton_Orden(this, "XPButton4", QStringLiteral("Eliminar Alumno"),
+                              [this] { XPButton4_Click(); }));
+    datos->addRow(Boton_Orden(this, "XPButton1", QStringLiteral("Exportar Excel"),
+                              [this] { XPButton1_Click(); }));
     datos->addRow(
-        Boton(this, "XPButton4", QStringLiteral("Eliminar Alumno"), [this] { XPButton4_Click(); }));
-    datos->addRow(
-        Boton(this, "XPButton1", QStringLiteral("Exportar Excel"), [this] { XPButton1_Click(); }));
-    datos->addRow(
-        Boton(this, "XPButton2", QStringLiteral("Imprimir"), [this] { XPButton2_Click(); }));
-    auto* tabla = Vista(SprEvaCorrec, this);
+        Boton_Orden(this, "XPButton2", QStringLiteral("Imprimir"), [this] { XPButton2_Click(); }));
+    auto* tabla = Vista_Lectura(SprEvaCorrec, this);
+    auto* alumno = Vista_Lectura(SpsSoloAlumno, this);
+    for (QTableView* v : {tabla, alumno}) v->setSelectionBehavior(QAbstractItemView::SelectRows);
     auto* grillas = new QVBoxLayout;
     grillas->addWidget(tabla, 2);
-    grillas->addWidget(Vista(SpsSoloAlumno, this), 1);
+    grillas->addWidget(alumno, 1);
     auto* capa = new QHBoxLayout(this);
     capa->addLayout(grillas, 1);
     capa->addLayout(datos);
@@ -96,23 +80,23 @@ QWidget* FrmEvaCorrecion::Panel_Escala() {
     Txt_Maxima_7 = Campo(panel, QString());
     auto* capa = new QGridLayout(panel);
     capa->addWidget(new QLabel(QStringLiteral("% para nota 4"), panel), 0, 0);
-    capa->addWidget(Boton(panel, "CmdAbajo1", QStringLiteral("-"), [this] { CmdAbajo1_Click(); }),
-                    0, 1);
+    capa->addWidget(
+        Boton_Orden(panel, "CmdAbajo1", QStringLiteral("-"), [this] { CmdAbajo1_Click(); }), 0, 1);
     capa->addWidget(XminText, 0, 2);
-    capa->addWidget(Boton(panel, "CmdArri4", QStringLiteral("+"), [this] { CmdArri4_Click(); }), 0,
-                    3);
+    capa->addWidget(
+        Boton_Orden(panel, "CmdArri4", QStringLiteral("+"), [this] { CmdArri4_Click(); }), 0, 3);
     capa->addWidget(new QLabel(QStringLiteral("% para nota 7"), panel), 1, 0);
-    capa->addWidget(Boton(panel, "CmdAbajo2", QStringLiteral("-"), [this] { CmdAbajo2_Click(); }),
-                    1, 1);
+    capa->addWidget(
+        Boton_Orden(panel, "CmdAbajo2", QStringLiteral("-"), [this] { CmdAbajo2_Click(); }), 1, 1);
     capa->addWidget(XmaxText, 1, 2);
-    capa->addWidget(Boton(panel, "CmdArri6", QStringLiteral("+"), [this] { CmdArri6_Click(); }), 1,
-                    3);
+    capa->addWidget(
+        Boton_Orden(panel, "CmdArri6", QStringLiteral("+"), [this] { CmdArri6_Click(); }), 1, 3);
     capa->addWidget(new QLabel(QStringLiteral("Ajuste de Nota 4"), panel), 2, 0);
     capa->addWidget(Txt_Minima_4, 2, 2);
     capa->addWidget(new QLabel(QStringLiteral("Ajuste de Nota 7"), panel), 3, 0);
     capa->addWidget(Txt_Maxima_7, 3, 2);
-    capa->addWidget(Boton(panel, "CmdGrabaNuevaNota", QStringLiteral("Grabar Nuevas Notas"),
-                          [this] { CmdGrabaNuevaNota_Click(); }),
+    capa->addWidget(Boton_Orden(panel, "CmdGrabaNuevaNota", QStringLiteral("Grabar Nuevas Notas"),
+                                [this] { CmdGrabaNuevaNota_Click(); }),
                     4, 0, 1, 4);
     return panel;
 }
