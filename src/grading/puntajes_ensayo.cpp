@@ -27,15 +27,6 @@ constexpr Cortes kCortes232{232, 285};
 constexpr Cortes kCortes240{240, 280};
 constexpr Cortes kCortes245{245, 294};
 
-// Spaces cut at both ends, as the system trims a text.
-QString Sin_Espacios(const QString& texto) {
-    int desde = 0;
-    int hasta = texto.size();
-    while (desde < hasta && texto[desde] == QLatin1Char(' ')) ++desde;
-    while (hasta > desde && texto[hasta - 1] == QLatin1Char(' ')) --hasta;
-    return texto.mid(desde, hasta - desde);
-}
-
 Cortes Cortes_Octavo(const QString& asignatura) {
     const QString a = Sin_Espacios(asignatura).toUpper();
     if (a == QStringLiteral("EDUCACIÓN MATEMÁTICA")) return kCortes232;
@@ -59,6 +50,14 @@ Cortes Cortes_Simce(int16_t nivel_curso, const QString& asignatura) {
 }
 
 }  // namespace
+
+QString Sin_Espacios(const QString& texto) {
+    int desde = 0;
+    int hasta = texto.size();
+    while (desde < hasta && texto[desde] == QLatin1Char(' ')) ++desde;
+    while (hasta > desde && texto[hasta - 1] == QLatin1Char(' ')) --hasta;
+    return texto.mid(desde, hasta - desde);
+}
 
 NivelesPsu Calcula_Niveles_Psu(int16_t buenas, int16_t preguntas) {
     Sin_Cero(preguntas);

@@ -6,6 +6,9 @@
 #include <QStringList>
 #include <cstdint>
 
+// Spaces cut at both ends, as the system trims a subject or a test name; tabs stay.
+QString Sin_Espacios(const QString& texto);
+
 // The three linear PSU estimates of one student; a wrong answer takes nothing away.
 struct NivelesPsu {
     double bajo;

@@ -67,18 +67,6 @@ TEST_F(Simce, CargaPuntajesYNivelesConLaXDeLaFilaAnterior) {
     EXPECT_EQ(f.MSChart1.datos[2], std::vector<double>{2});
 }
 
-TEST_F(Simce, OtraAsignaturaCambiaLosCortes) {
-    estado().Asignatura_Actual = "Lengua Castellana y Comunicación";
-    Ejecuta("update ResultadoAlumnos_rj set buenas = 18 where rut = '4-3'");
-    FrmSIMCE f;
-    // 18 of 40 gives x 237: "INICIAL" up to 240 here, "INTERMEDIO" from 233 in Matemática.
-    EXPECT_EQ(f.SprPSU.Celda(4, 8), "237");
-    EXPECT_EQ(f.SprPSU.Celda(4, 6), "INICIAL");
-    estado().Asignatura_Actual = "Matemática";
-    FrmSIMCE g;
-    EXPECT_EQ(g.SprPSU.Celda(4, 6), "INTERMEDIO");
-}
-
 TEST_F(Simce, SinPreguntasEsUnErrorDeEjecucion) {
     estado().Ptje_Max_Actual = 0;
     guion->Espera("Error de ejecución");

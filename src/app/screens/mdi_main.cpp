@@ -19,6 +19,7 @@
 #include "grading/screens/frm_eva_correcion.h"
 #include "grading/screens/frm_mod_nota.h"
 #include "grading/screens/frm_modf_rut.h"
+#include "grading/screens/frm_psu.h"
 #include "grading/screens/frm_simce.h"
 #include "masters/screens/frm_alumnos.h"
 #include "masters/screens/frm_asignatura.h"
@@ -79,6 +80,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("frmPuntajesPSU")] = [] { return new frmPuntajesPSU; };
     fabricas_[QStringLiteral("FrmMantSimce")] = [] { return new FrmMantSimce; };
     fabricas_[QStringLiteral("FrmSIMCE")] = [] { return new FrmSIMCE; };
+    fabricas_[QStringLiteral("FrmPsu")] = [] { return new FrmPsu; };
     Construye_Menu();
     resize(1200, 800);
     navegacion().muestra = [this](const QString& n) { return Muestra_Pantalla(n); };
