@@ -1,8 +1,12 @@
-// Scores of the practice runs of the national tests.
+// Scores of the practice runs of the national tests, and the students they are shown for.
 #include "grading/puntajes_ensayo.h"
 
+#include "app/estado.h"
+#include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
+#include "platform/grilla.h"
 #include "platform/numeros.h"
+#include "store/copias_prueba.h"
 
 namespace {
 
@@ -103,4 +107,18 @@ QString Nivel_Simce(int16_t nivel_curso, const QString& asignatura, int16_t x) {
     if (x <= c.inicial) return QStringLiteral("INICIAL");
     if (x <= c.intermedio) return QStringLiteral("INTERMEDIO");
     return QStringLiteral("AVANZADO");
+}
+
+void Carga_Todos_Rut_Prueba(Grilla& grilla) {
+    Recordset rs = estado().BaseDatos->OpenRecordset(
+        QStringLiteral(" SELECT rut  From ResultadoAlumnos_rj   Where idprueba = ? order by rut"),
+        {estado().Id_Prueba_Actual});
+    Grilla descarte(1, 9);  // the look-up writes into a grid of its own
+    for (; !rs.Eof(); rs.MoveNext()) {
+        const int fila = grilla.MaxRows() + 1;
+        grilla.SetMaxRows(fila);
+        const QString rut = rs[0].toString();
+        grilla.FijaCelda(fila, 1, rut);
+        grilla.FijaCelda(fila, 2, Fnc_Nombre_Alumno(rut, descarte));
+    }
 }

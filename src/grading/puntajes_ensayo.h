@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <cstdint>
 
+class Grilla;
+
 // Spaces cut at both ends, as the system trims a subject or a test name; tabs stay.
 QString Sin_Espacios(const QString& texto);
 
@@ -35,3 +37,7 @@ int16_t Nivel_Curso(const QString& curso);
 // "INICIAL", "INTERMEDIO" or "AVANZADO" for the score x, by the cut points of the course level
 // and subject.
 QString Nivel_Simce(int16_t nivel_curso, const QString& asignatura, int16_t x);
+
+// Carga_Todos_Rut_Prueba: one row for each result of the current test, in rut order, with the
+// rut in column 1 and the first surname in column 2.
+void Carga_Todos_Rut_Prueba(Grilla& grilla);

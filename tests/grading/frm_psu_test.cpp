@@ -8,7 +8,6 @@
 #include <QLineEdit>
 
 #include "app/estado.h"
-#include "platform/base_datos.h"
 #include "platform/planilla_lectura.h"
 #include "support/base_temporal.h"
 
@@ -42,9 +41,6 @@ class Psu : public BaseTemporal {
         e.Id_Prueba_Actual = 6;
         e.Preguntas_Actual = 80;
         e.Asignatura_Actual = "Matemática";
-    }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) {
-        estado().BaseDatos->Execute(sql, p);
     }
     static QStringList Fila(const Grilla& g, int f) {
         QStringList c;

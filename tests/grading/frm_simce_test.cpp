@@ -7,7 +7,6 @@
 #include <QLineEdit>
 
 #include "app/estado.h"
-#include "platform/base_datos.h"
 #include "platform/planilla_lectura.h"
 #include "support/base_temporal.h"
 
@@ -34,9 +33,6 @@ class Simce : public BaseTemporal {
         e.Ptje_Max_Actual = 40;
         e.Asignatura_Actual = "Matemática";
         e.Curso_Actual = "2° Básico A";
-    }
-    void Ejecuta(const QString& sql, const QVariantList& p = {}) {
-        estado().BaseDatos->Execute(sql, p);
     }
     static QStringList Fila(const Grilla& g, int f) {
         QStringList c;

@@ -3,10 +3,7 @@
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
 
 #include "analysis/exporta_planilla.h"
 #include "app/estado.h"
@@ -16,8 +13,6 @@
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/screens/impresion.h"
-#include "platform/screens/vista_grafico.h"
-#include "store/copias_prueba.h"
 
 namespace {
 
@@ -51,30 +46,17 @@ FrmPsu::FrmPsu(QWidget* padre) : QWidget(padre) {
 }
 
 void FrmPsu::Construye() {
-    Txt_Base = new QLineEdit(this);
-    TxtMaximo = new QLineEdit(this);
-    for (QLineEdit* t : {Txt_Base, TxtMaximo}) t->setReadOnly(true);
+    const PiezasEnsayo p = Arma_Ensayo(
+        this, SprPSU, MSChart1, QStringLiteral("Puntaje Base"), [this] { XPButton1_Click(); },
+        [this] { XPButton2_Click(); });
+    Txt_Base = p.Txt_Base;
+    TxtMaximo = p.TxtMaximo;
     Combo1 = new QComboBox(this);
     for (const auto& t : kTiposGrafico) Combo1->addItem(QString::fromUtf8(t.texto));
     Combo1->setCurrentIndex(1);
     connect(Combo1, &QComboBox::activated, this,
             [this] { Ejecutar_Comando([this] { Combo1_Click(); }); });
-    auto* campos = new QFormLayout;
-    campos->addRow(QStringLiteral("Puntaje Base"), Txt_Base);
-    campos->addRow(QStringLiteral("Puntaje Máximo"), TxtMaximo);
-    campos->addRow(QStringLiteral("Tipo de gráfico"), Combo1);
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButton1"), QStringLiteral("Exportar Excel"),
-                               [this] { XPButton1_Click(); }));
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButton2"), QStringLiteral("Imprimir"),
-                               [this] { XPButton2_Click(); }));
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButCancelar"), QStringLiteral("Salir"),
-                               [this] { close(); }));
-    auto* derecha = new QVBoxLayout;
-    derecha->addLayout(campos);
-    derecha->addWidget(new VistaGrafico(MSChart1, this), 1);
-    auto* capa = new QHBoxLayout(this);
-    capa->addWidget(Vista_Lectura(SprPSU, this), 3);
-    capa->addLayout(derecha, 2);
+    p.campos->insertRow(2, QStringLiteral("Tipo de gráfico"), Combo1);
     resize(1200, 560);
 }
 
@@ -87,7 +69,7 @@ void FrmPsu::Form_Load() {
     }
     Tipo_Prueba();
     Carga_Puntajes_PSU();
-    Carga_Todos_Rut_Prueba();
+    Carga_Todos_Rut_Prueba(SprPSU);
     Pongo_Aciertos();
     Genere_Grafico_Prueba();
 }
@@ -121,20 +103,6 @@ void FrmPsu::Carga_Puntajes_PSU() {
         Spr_Puntaje_PSU.SetMaxRows(fila);
         Spr_Puntaje_PSU.FijaCelda(fila, 1, rs[0].toString());
         Spr_Puntaje_PSU.FijaCelda(fila, 2, rs[1].toString());
-    }
-}
-
-void FrmPsu::Carga_Todos_Rut_Prueba() {
-    Recordset rs = Base().OpenRecordset(
-        QStringLiteral(" SELECT rut  From ResultadoAlumnos_rj   Where idprueba = ? order by rut"),
-        {estado().Id_Prueba_Actual});
-    Grilla descarte(1, 9);  // the look-up writes into a grid of its own
-    for (; !rs.Eof(); rs.MoveNext()) {
-        const int fila = SprPSU.MaxRows() + 1;
-        SprPSU.SetMaxRows(fila);
-        const QString rut = rs[0].toString();
-        SprPSU.FijaCelda(fila, 1, rut);
-        SprPSU.FijaCelda(fila, 2, Fnc_Nombre_Alumno(rut, descarte));
     }
 }
 

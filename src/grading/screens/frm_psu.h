@@ -35,7 +35,6 @@ class FrmPsu : public QWidget {
     void Construye();
     void Tipo_Prueba();
     void Carga_Puntajes_PSU();
-    void Carga_Todos_Rut_Prueba();
     void Pongo_Aciertos();
     void Pon_Fila(int fila, const class Recordset& rs);
     QString Puntaje_Tabla(int16_t buenas) const;

@@ -2,9 +2,7 @@
 #include "grading/screens/frm_simce.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTableView>
 
 #include "analysis/exporta_planilla.h"
@@ -15,8 +13,6 @@
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/screens/impresion.h"
-#include "platform/screens/vista_grafico.h"
-#include "store/copias_prueba.h"
 
 namespace {
 
@@ -43,31 +39,18 @@ FrmSIMCE::FrmSIMCE(QWidget* padre) : QWidget(padre) {
 }
 
 void FrmSIMCE::Construye() {
-    Txt_Base = new QLineEdit(this);
-    TxtMaximo = new QLineEdit(this);
-    for (QLineEdit* t : {Txt_Base, TxtMaximo}) t->setReadOnly(true);
-    auto* campos = new QFormLayout;
-    campos->addRow(QStringLiteral("Puntaje Mínimo"), Txt_Base);
-    campos->addRow(QStringLiteral("Puntaje Máximo"), TxtMaximo);
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButton1"), QStringLiteral("Exportar Excel"),
-                               [this] { XPButton1_Click(); }));
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButton2"), QStringLiteral("Imprimir"),
-                               [this] { XPButton2_Click(); }));
-    campos->addRow(Boton_Orden(this, QStringLiteral("XPButCancelar"), QStringLiteral("Salir"),
-                               [this] { close(); }));
-    campos->addRow(Vista_Lectura(SprNiveles, this));
-    auto* derecha = new QVBoxLayout;
-    derecha->addLayout(campos);
-    derecha->addWidget(new VistaGrafico(MSChart1, this), 1);
-    auto* capa = new QHBoxLayout(this);
-    capa->addWidget(Vista_Lectura(SprPSU, this), 3);
-    capa->addLayout(derecha, 2);
+    const PiezasEnsayo p = Arma_Ensayo(
+        this, SprPSU, MSChart1, QStringLiteral("Puntaje Mínimo"), [this] { XPButton1_Click(); },
+        [this] { XPButton2_Click(); });
+    Txt_Base = p.Txt_Base;
+    TxtMaximo = p.TxtMaximo;
+    p.campos->addRow(Vista_Lectura(SprNiveles, this));
     resize(1100, 560);
 }
 
 void FrmSIMCE::Form_Load() {
     Tipo_Prueba();
-    Carga_Todos_Rut_Prueba();
+    Carga_Todos_Rut_Prueba(SprPSU);
     Pongo_Aciertos();
     Calcula_Promedio_Nivel();
     Genere_Grafico_Prueba();
@@ -78,20 +61,6 @@ void FrmSIMCE::Tipo_Prueba() {
     for (; !rs.Eof(); rs.MoveNext()) {
         Txt_Base->setText(rs["puntaje_minimo"].toString());
         TxtMaximo->setText(rs["puntaje_maximo"].toString());
-    }
-}
-
-void FrmSIMCE::Carga_Todos_Rut_Prueba() {
-    Recordset rs = Base().OpenRecordset(
-        QStringLiteral(" SELECT rut  From ResultadoAlumnos_rj   Where idprueba = ? order by rut"),
-        {estado().Id_Prueba_Actual});
-    Grilla descarte(1, 9);  // the look-up writes into a grid of its own
-    for (; !rs.Eof(); rs.MoveNext()) {
-        const int fila = SprPSU.MaxRows() + 1;
-        SprPSU.SetMaxRows(fila);
-        const QString rut = rs[0].toString();
-        SprPSU.FijaCelda(fila, 1, rut);
-        SprPSU.FijaCelda(fila, 2, Fnc_Nombre_Alumno(rut, descarte));
     }
 }
 

@@ -30,7 +30,6 @@ class FrmSIMCE : public QWidget {
   private:
     void Construye();
     void Tipo_Prueba();
-    void Carga_Todos_Rut_Prueba();
     void Pongo_Aciertos();
     void Calcula_Promedio_Nivel();
     void Genere_Grafico_Prueba();
