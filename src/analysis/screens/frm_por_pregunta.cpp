@@ -1,0 +1,217 @@
+// FrmPorPregunta, "Analisis por Pregunta".
+#include "analysis/screens/frm_por_pregunta.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPainter>
+#include <QStandardPaths>
+
+#include "analysis/analisis_pregunta.h"
+#include "analysis/exporta_planilla.h"
+#include "app/estado.h"
+#include "masters/screens/controles.h"
+#include "platform/dialogos.h"
+#include "platform/numeros.h"
+#include "platform/screens/impresion.h"
+#include "platform/screens/vista_grafico.h"
+#include "store/copias_prueba.h"
+
+namespace {
+
+const MargenesImpresion kMargenes{1440, 900, 720, 600};
+
+// Two header rows: a group name over each pair of columns, the column's own head below it.
+// Columns without a group show their head over both rows.
+class CabeceraDoble : public QHeaderView {
+  public:
+    CabeceraDoble(QStringList grupos, QWidget* padre)
+        : QHeaderView(Qt::Horizontal, padre), grupos_(std::move(grupos)) {
+        setDefaultAlignment(Qt::AlignCenter);
+    }
+
+    QSize sizeHint() const override {
+        QSize s = QHeaderView::sizeHint();
+        s.setHeight(2 * fontMetrics().height() + 12);
+        return s;
+    }
+
+  protected:
+    void paintSection(QPainter* p, const QRect& rect, int columna) const override {
+        const QString grupo = grupos_.value(columna);
+        if (grupo.isEmpty()) return QHeaderView::paintSection(p, rect, columna);
+        const int mitad = rect.height() / 2;
+        p->save();
+        QHeaderView::paintSection(p, rect.adjusted(0, mitad, 0, 0), columna);
+        p->restore();
+        // The group cell covers its pair; each section paints its own part of it.
+        const int primera = grupos_.value(columna - 1) == grupo ? columna - 1 : columna;
+        const int ancho = sectionSize(primera) + sectionSize(primera + 1);
+        QStyleOptionHeader op;
+        initStyleOption(&op);
+        op.rect = QRect(sectionViewportPosition(primera), rect.top(), ancho, mitad);
+        op.text = grupo;
+        op.textAlignment = Qt::AlignCenter;
+        p->save();
+        p->setClipRect(QRect(rect.left(), rect.top(), rect.width(), mitad));
+        style()->drawControl(QStyle::CE_Header, &op, p, this);
+        p->restore();
+    }
+
+  private:
+    QStringList grupos_;
+};
+
+QTableView* Vista(QWidget* padre, const QString& nombre, Grilla& grilla,
+                  const QStringList& grupos) {
+    auto* vista = Vista_Grilla(padre, nombre, grilla, {});
+    vista->setHorizontalHeader(new CabeceraDoble(grupos, vista));
+    vista->horizontalHeader()->setDefaultSectionSize(62);
+    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 2, 12);
+    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 1, 260);
+    return vista;
+}
+
+const QStringList& Grupos_Aciertos() {
+    static const QStringList g = {"Buenas", "Buenas", "Malas", "Malas", "Omitidas", "Omitidas"};
+    return g;
+}
+
+const QStringList& Grupos_Frecuencia() {
+    static const QStringList g = {"Alternatica A", "Alternatica A", "Alternatica B",
+                                  "Alternatica B", "Alternatica C", "Alternatica C",
+                                  "Alternatica D", "Alternatica D", "Alternatica E",
+                                  "Alternatica E", "Omitidas",      "Omitidas"};
+    return g;
+}
+
+// Pairs of heads from column 1, then the spacer and the test's identity.
+void Cabezas(Grilla& grilla, const QString& cantidad, int pares) {
+    for (int k = 0; k < pares; ++k) {
+        grilla.FijaCelda(0, 2 * k + 1, cantidad);
+        grilla.FijaCelda(0, 2 * k + 2, QStringLiteral("%"));
+    }
+    grilla.FijaCelda(0, 2 * pares + 1, QStringLiteral(" "));
+    grilla.FijaCelda(0, 2 * pares + 2, QStringLiteral("Descripción Prueba"));
+}
+
+}  // namespace
+
+FrmPorPregunta::FrmPorPregunta(QWidget* padre) : QWidget(padre) {
+    setObjectName(QStringLiteral("FrmPorPregunta"));
+    setWindowTitle(QStringLiteral("Analisis por Pregunta"));
+    FrameFormas = new QGroupBox(QStringLiteral("Formas"), this);
+    CboFormas = new QComboBox(FrameFormas);
+    CboFormas->setObjectName(QStringLiteral("CboFormas"));
+    (new QHBoxLayout(FrameFormas))->addWidget(CboFormas);
+    connect(CboFormas, &QComboBox::activated, this,
+            [this] { Ejecutar_Comando([this] { CboFormas_Click(); }); });
+    auto* arriba = new QHBoxLayout;
+    arriba->addWidget(Vista(this, QStringLiteral("SprAciertos"), SprAciertos, Grupos_Aciertos()),
+                      3);
+    arriba->addWidget(new VistaGrafico(MSChart1, this), 2);
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(FrameFormas, 0, Qt::AlignLeft);
+    izquierda->addLayout(arriba, 1);
+    izquierda->addWidget(
+        Vista(this, QStringLiteral("SprFrecuencia"), SprFrecuencia, Grupos_Frecuencia()), 1);
+    auto* cuerpo = new QHBoxLayout(this);
+    cuerpo->addLayout(izquierda, 1);
+    cuerpo->addLayout(Columna_Botones(
+        this, {
+                  {"XPButton1", "Exportar a Excel", [this] { XPButton1_Click(); }},
+                  {"XPButton2", "Imprimir Aciertos por Pregunta", [this] { XPButton2_Click(); }},
+                  {"XPButton3", "Imprimir Frecuencia por Pregunta", [this] { XPButton3_Click(); }},
+                  {"XPButCancelar", "Salir", [this] { close(); }},
+              }));
+    resize(1200, 680);
+    Ejecutar_Comando([this] { Form_Load(); });
+}
+
+void FrmPorPregunta::Setea_Grilla() {
+    Cabezas(SprAciertos, QStringLiteral("Cantidad"), 3);
+}
+
+void FrmPorPregunta::Setea_Grilla_Fre() {
+    Cabezas(SprFrecuencia, QStringLiteral("Cant."), 6);
+}
+
+void FrmPorPregunta::Form_Load() {
+    if (estado().Id_Prueba_Actual == 0) {
+        dialogos().MsgBox(QStringLiteral("UD. no tiene asociado a una prueba para esta carga, "
+                                         "verifique sus datos"),
+                          vbCritical, QStringLiteral("Corrección de pruebas"));
+        return;
+    }
+    Setea_Grilla();
+    Setea_Grilla_Fre();
+    FrameFormas->hide();
+    QStringList formas;
+    Carga_Formas_Pauta(formas);
+    CboFormas->clear();
+    CboFormas->addItems(formas);
+    if (formas.size() >= 2)
+        FrameFormas->show();
+    else
+        Calcula_Forma(1);
+    Agrega_Datos_Prueba(SprAciertos);
+    Agrega_Datos_Prueba(SprFrecuencia);
+}
+
+void FrmPorPregunta::Calcula_Forma(int16_t forma) {
+    // Each fill consumes the answers: they are read again for the second table.
+    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
+    Pongo_Aciertos(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprAciertos);
+    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
+    Pongo_Frecuencias(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprFrecuencia);
+    Genero_Grafico();
+}
+
+void FrmPorPregunta::Genero_Grafico() {
+    const auto datos = Datos_Grafico_Aciertos(SprAciertos);
+    QStringList preguntas;
+    for (size_t r = 1; r <= datos.size(); ++r) preguntas << QString::number(r);
+    MSChart1.series = {QStringLiteral("Malas"), QStringLiteral("Buenas"),
+                       QStringLiteral("Omitidas")};
+    MSChart1.ChartData(preguntas, datos);
+    MSChart1.chartType = GraficoBarras2D;
+    MSChart1.Refresh();
+}
+
+void FrmPorPregunta::CboFormas_Click() {
+    Calcula_Forma(CInt(Val(CboFormas->currentText())));
+}
+
+void FrmPorPregunta::XPButton1_Click() {
+    const int formas = CboFormas->count();
+    const QString nombre = dialogos().GuardarArchivo(
+        QStringLiteral("Exportar Excel"), QStringLiteral("Libro de Excel (*.xlsx)"),
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (nombre.trimmed().isEmpty()) return;
+    const FuentesExportacion fuentes{&MSChart1, nullptr};
+    if (formas == 1) {
+        if (Exporta_Planilla(nombre, SprAciertos, SprFrecuencia, 1, fuentes))
+            dialogos().MsgBox(QStringLiteral(" Datos exportados en ") + nombre, vbInformation,
+                              QStringLiteral("Zorta"));
+        return;
+    }
+    // No list entry at all takes this branch too: no file, an empty list.
+    QString lista;
+    for (int k = 1; k <= formas; ++k) {
+        Calcula_Forma(k);
+        const QString archivo = Archivo_Forma(nombre, k);
+        Exporta_Planilla(archivo, SprAciertos, SprFrecuencia, 1, fuentes);
+        lista += QStringLiteral("\r") + archivo + QStringLiteral("\r ");
+    }
+    dialogos().MsgBox(QStringLiteral(" Datos exportados en ") + lista, vbInformation,
+                      QStringLiteral("Exportación Excel Analisis por Pregunta"));
+}
+
+void FrmPorPregunta::XPButton2_Click() {
+    Imprime_Grilla(SprAciertos, QStringLiteral("Aciertos Por Pregunta"), 2, kMargenes);
+}
+
+void FrmPorPregunta::XPButton3_Click() {
+    Imprime_Grilla(SprFrecuencia, QStringLiteral("Frecuencia Por Pregunta"), 2, kMargenes);
+}
