@@ -73,7 +73,7 @@ TEST_F(Principal, TestListIsOneInstanceBroughtToTheFront) {
     EXPECT_EQ(primera->windowTitle(), "Resumen Pruebas Ingresadas.");
     m.Accion("mnu_enc_abierta")->trigger();
     EXPECT_EQ(m.Muestra_Pantalla("frmCorrecPru"), primera);
-    EXPECT_FALSE(m.Accion("Mnu_Por_pregunta")->isEnabled())
+    EXPECT_FALSE(m.Accion("Mnu_Eje")->isEnabled())
         << "a screen not built yet is present and disabled";
 }
 

@@ -67,9 +67,9 @@ QTableView* Vista(QWidget* padre, const QString& nombre, Grilla& grilla,
                   const QStringList& grupos) {
     auto* vista = Vista_Grilla(padre, nombre, grilla, {});
     vista->setHorizontalHeader(new CabeceraDoble(grupos, vista));
-    vista->horizontalHeader()->setDefaultSectionSize(62);
+    vista->horizontalHeader()->setDefaultSectionSize(50);
     vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 2, 12);
-    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 1, 260);
+    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 1, 230);
     return vista;
 }
 
