@@ -21,6 +21,8 @@
 namespace {
 
 const MargenesImpresion kMargenes{1440, 900, 720, 600};
+const QString kCantidad = QStringLiteral("Cantidad");
+const QString kCant = QStringLiteral("Cant.");
 
 // Two header rows: a group name over each pair of columns, the column's own head below it.
 // Columns without a group show their head over both rows.
@@ -63,13 +65,16 @@ class CabeceraDoble : public QHeaderView {
     QStringList grupos_;
 };
 
-QTableView* Vista(QWidget* padre, const QString& nombre, Grilla& grilla,
-                  const QStringList& grupos) {
+// A count column is as wide as its head `cantidad`.
+QTableView* Vista(QWidget* padre, const QString& nombre, Grilla& grilla, const QStringList& grupos,
+                  const QString& cantidad) {
     auto* vista = Vista_Grilla(padre, nombre, grilla, {});
     vista->setHorizontalHeader(new CabeceraDoble(grupos, vista));
-    vista->horizontalHeader()->setDefaultSectionSize(50);
-    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 2, 12);
-    vista->horizontalHeader()->resizeSection(grilla.MaxCols() - 1, 230);
+    QHeaderView* cabecera = vista->horizontalHeader();
+    const int ancho = std::max(46, cabecera->fontMetrics().horizontalAdvance(cantidad) + 16);
+    for (int c = 0; c < grilla.MaxCols() - 2; ++c) cabecera->resizeSection(c, c % 2 ? 46 : ancho);
+    cabecera->resizeSection(grilla.MaxCols() - 2, 12);
+    cabecera->resizeSection(grilla.MaxCols() - 1, 230);
     return vista;
 }
 
@@ -108,14 +113,14 @@ FrmPorPregunta::FrmPorPregunta(QWidget* padre) : QWidget(padre) {
     connect(CboFormas, &QComboBox::activated, this,
             [this] { Ejecutar_Comando([this] { CboFormas_Click(); }); });
     auto* arriba = new QHBoxLayout;
-    arriba->addWidget(Vista(this, QStringLiteral("SprAciertos"), SprAciertos, Grupos_Aciertos()),
-                      3);
+    arriba->addWidget(
+        Vista(this, QStringLiteral("SprAciertos"), SprAciertos, Grupos_Aciertos(), kCantidad), 3);
     arriba->addWidget(new VistaGrafico(MSChart1, this), 2);
     auto* izquierda = new QVBoxLayout;
     izquierda->addWidget(FrameFormas, 0, Qt::AlignLeft);
     izquierda->addLayout(arriba, 1);
     izquierda->addWidget(
-        Vista(this, QStringLiteral("SprFrecuencia"), SprFrecuencia, Grupos_Frecuencia()), 1);
+        Vista(this, QStringLiteral("SprFrecuencia"), SprFrecuencia, Grupos_Frecuencia(), kCant), 1);
     auto* cuerpo = new QHBoxLayout(this);
     cuerpo->addLayout(izquierda, 1);
     cuerpo->addLayout(Columna_Botones(
@@ -130,11 +135,11 @@ FrmPorPregunta::FrmPorPregunta(QWidget* padre) : QWidget(padre) {
 }
 
 void FrmPorPregunta::Setea_Grilla() {
-    Cabezas(SprAciertos, QStringLiteral("Cantidad"), 3);
+    Cabezas(SprAciertos, kCantidad, 3);
 }
 
 void FrmPorPregunta::Setea_Grilla_Fre() {
-    Cabezas(SprFrecuencia, QStringLiteral("Cant."), 6);
+    Cabezas(SprFrecuencia, kCant, 6);
 }
 
 void FrmPorPregunta::Form_Load() {
