@@ -1,11 +1,12 @@
 // The test list: choosing a test, its students with their marks, amendments, delete and copy.
+#include "grading/screens/frm_correc_pru.h"
+
 #include <gtest/gtest.h>
 
 #include <QLabel>
 #include <QPushButton>
 
 #include "app/estado.h"
-#include "grading/screens/frm_correc_pru.h"
 #include "platform/base_datos.h"
 #include "platform/screens/navegacion.h"
 #include "support/base_temporal.h"
@@ -13,20 +14,28 @@
 namespace {
 
 class Resumen : public BaseTemporal {
-protected:
+  protected:
     void SetUp() override {
         BaseTemporal::SetUp();
         ASSERT_TRUE(Arranca());
-        Ejecuta("insert into prueba_rj values (3, 'Historia', 'PSU', 'Ana Díaz', 'Historia', '4° Medio A', 1, "
-                "'01-03-2026', 40, 0, 5, 'S', 1)");
-        Ejecuta("insert into prueba_rj values (7, 'Ciencias', 'GENERAL', 'Luis Pérez', 'Biología', '2° Medio B', 2, "
-                "'02-03-2026', 30, 0, 4, 'N', null)");
-        const QString r = "insert into ResultadoAlumnos_rj values (7, ?, ?, ?, ?, ?, 0, ?, 0, 0, ?)";
+        Ejecuta(
+            "insert into prueba_rj values (3, 'Historia', 'PSU', 'Ana Díaz', 'Historia', '4° Medio "
+            "A', 1, "
+            "'01-03-2026', 40, 0, 5, 'S', 1)");
+        Ejecuta(
+            "insert into prueba_rj values (7, 'Ciencias', 'GENERAL', 'Luis Pérez', 'Biología', '2° "
+            "Medio B', 2, "
+            "'02-03-2026', 30, 0, 4, 'N', null)");
+        const QString r =
+            "insert into ResultadoAlumnos_rj values (7, ?, ?, ?, ?, ?, 0, ?, 0, 0, ?)";
         Ejecuta(r, {"5126663-3", 25, 3, 2, 0, 5.75, 1});
         Ejecuta(r, {"12345678-4", 18, 10, 1, 1, 4, 2});
         Ejecuta(r, {"1-9", 0, 0, 30, 0, 0, 1});  // no marks and grade 0: no repair
         Ejecuta("insert into respuesta_alumnos_por_rut values (7, 1, 99, 1, '22222222-2')");
-        navegacion().muestra = [this](const QString& n) { pedidas << n; return nullptr; };
+        navegacion().muestra = [this](const QString& n) {
+            pedidas << n;
+            return nullptr;
+        };
         navegacion().modal = [this](const QString& n) { pedidas << "modal " + n; };
     }
     void TearDown() override {
@@ -46,8 +55,9 @@ protected:
 TEST_F(Resumen, ListShowsTestsNewestFirstInItsColumns) {
     frmCorrecPru f;
     ASSERT_EQ(f.SprPrincipal.MaxRows(), 2);
-    EXPECT_EQ(Fila(f.SprPrincipal, 1, 11), QStringList({"7", "Ciencias", "Luis Pérez", "2° Medio B", "GENERAL", "30",
-                                                        "Biología", "02-03-2026", "2", "4", "N"}));
+    EXPECT_EQ(Fila(f.SprPrincipal, 1, 11),
+              QStringList({"7", "Ciencias", "Luis Pérez", "2° Medio B", "GENERAL", "30", "Biología",
+                           "02-03-2026", "2", "4", "N"}));
     EXPECT_EQ(f.SprPrincipal.Celda(2, 1), "3");
     EXPECT_FALSE(f.XPButton1->isEnabled());
 }
@@ -91,8 +101,10 @@ TEST_F(Resumen, AZeroGradeWithMarksIsRepairedByTheProportionalRule) {
     Ejecuta("update ResultadoAlumnos_rj set nota = 0 where rut = '5126663-3'");
     frmCorrecPru f;
     f.SprPrincipal_Click(1);
-    EXPECT_EQ(f.SprResulprucargada.Celda(3, 5), "0") << "the grade shown is the one read before the repair";
-    EXPECT_DOUBLE_EQ(Valor("select nota from ResultadoAlumnos_rj where rut = '5126663-3'").toDouble(), 3.5);
+    EXPECT_EQ(f.SprResulprucargada.Celda(3, 5), "0")
+        << "the grade shown is the one read before the repair";
+    EXPECT_DOUBLE_EQ(
+        Valor("select nota from ResultadoAlumnos_rj where rut = '5126663-3'").toDouble(), 3.5);
     EXPECT_DOUBLE_EQ(Valor("select nota from ResultadoAlumnos_rj where rut = '1-9'").toDouble(), 0);
 }
 
@@ -110,7 +122,8 @@ TEST_F(Resumen, DoubleClicksOpenTheAmendmentOrExplain) {
     f.SprResulprucargada_DblClick(4);
     EXPECT_FALSE(estado().Rut_Malo);
     EXPECT_EQ(estado().Fila_Enmienda, 4);
-    EXPECT_EQ(guion->cajas.back().texto, "El alumno :\r\resta sin FORMA, favor marque la forma correcta y repita el proceso");
+    EXPECT_EQ(guion->cajas.back().texto,
+              "El alumno :\r\resta sin FORMA, favor marque la forma correcta y repita el proceso");
     EXPECT_EQ(guion->cajas.back().estilo, vbInformation);
 
     f.SprResulprucargada_DblClick(3);  // neither mark: nothing
@@ -133,8 +146,10 @@ TEST_F(Resumen, DeleteRemovesEveryRowOfTheTestWithoutAsking) {
     guion->Espera("Registro eliminado");
     f.Elimina_Prueba();
     EXPECT_EQ(guion->cajas.back().texto, "La prueba Nº 7 ha sido eliminada");
-    for (const char* t : {"prueba_rj", "Resp_preguntas_pautas", "respuesta_alumnos_por_rut", "ResultadoAlumnos_rj"})
-        EXPECT_EQ(Valor(QString("select count(*) from %1 where idprueba = 7").arg(t)).toInt(), 0) << t;
+    for (const char* t :
+         {"prueba_rj", "Resp_preguntas_pautas", "respuesta_alumnos_por_rut", "ResultadoAlumnos_rj"})
+        EXPECT_EQ(Valor(QString("select count(*) from %1 where idprueba = 7").arg(t)).toInt(), 0)
+            << t;
     EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj where idprueba = 3").toInt(), 1);
     EXPECT_EQ(f.SprPrincipal.MaxRows(), 1);
     EXPECT_EQ(f.Etiqueta("LblNombre")->text(), "");

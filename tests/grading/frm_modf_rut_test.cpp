@@ -1,4 +1,6 @@
 // Amending a rut or a form: rows moved under the new key, grades kept or recomputed.
+#include "grading/screens/frm_modf_rut.h"
+
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -7,14 +9,13 @@
 #include <QPushButton>
 
 #include "app/estado.h"
-#include "grading/screens/frm_modf_rut.h"
 #include "platform/base_datos.h"
 #include "support/base_temporal.h"
 
 namespace {
 
 class Enmienda : public BaseTemporal {
-protected:
+  protected:
     void SetUp() override {
         BaseTemporal::SetUp();
         ASSERT_TRUE(Arranca());
@@ -22,10 +23,14 @@ protected:
         e.Id_Prueba_Actual = 7;
         e.Numero_Formas_Actual = 2;
         e.Fila_Enmienda = 1;
-        Ejecuta("insert into ALUMNOS values ('12345678-5', 'Bernardo O''Higgins', '2° Medio B', '0')");
-        Ejecuta("insert into ResultadoAlumnos_rj values (7, '12345678-4', 3, 1, 0, 0, 0, 5.3, 0, 75, 1)");
+        Ejecuta(
+            "insert into ALUMNOS values ('12345678-5', 'Bernardo O''Higgins', '2° Medio B', '0')");
+        Ejecuta(
+            "insert into ResultadoAlumnos_rj values (7, '12345678-4', 3, 1, 0, 0, 0, 5.3, 0, 75, "
+            "1)");
         for (int p = 1; p <= 4; ++p) {
-            Ejecuta("insert into respuesta_alumnos_por_rut values (7, ?, 1, ?, '12345678-4')", {p, p <= 3 ? 1 : 3});
+            Ejecuta("insert into respuesta_alumnos_por_rut values (7, ?, 1, ?, '12345678-4')",
+                    {p, p <= 3 ? 1 : 3});
             Ejecuta("insert into Resp_preguntas_pautas values (7, ?, 1, 1)", {p});
             Ejecuta("insert into Resp_preguntas_pautas values (7, ?, 2, ?)", {p, p == 4 ? 3 : 2});
         }
@@ -34,9 +39,11 @@ protected:
         resumen.FijaCelda(1, 8, "RM");
     }
     QString Fila(const QString& rut) {
-        return Valor("select Buenas || '/' || Malas || '/' || Omitidas || '/' || Nulas || '/' || Nota || '/' || "
-                     "Porcentaje || '/' || Forma from ResultadoAlumnos_rj where rut = ?",
-                     {rut})
+        return Valor(
+                   "select Buenas || '/' || Malas || '/' || Omitidas || '/' || Nulas || '/' || "
+                   "Nota || '/' || "
+                   "Porcentaje || '/' || Forma from ResultadoAlumnos_rj where rut = ?",
+                   {rut})
             .toString();
     }
     Grilla resumen{1, 10};
@@ -61,7 +68,10 @@ TEST_F(Enmienda, ABadRutIsRefusedAndAGoodOneMovesTheRowsKeepingTheGrade) {
     // The grade stays; the form column takes the closing 0 of the insert.
     EXPECT_EQ(Fila("12345678-5"), "3/1/0/0/5.3/75/0");
     EXPECT_EQ(Fila("12345678-4"), "");
-    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut where rut_alumno = '12345678-5'").toInt(), 4);
+    EXPECT_EQ(
+        Valor("select count(*) from respuesta_alumnos_por_rut where rut_alumno = '12345678-5'")
+            .toInt(),
+        4);
     EXPECT_EQ(resumen.Celda(1, 1), "Bernardo O'Higgins");
     EXPECT_EQ(resumen.Celda(1, 7), "12345678-5");
     EXPECT_EQ(resumen.Celda(1, 8), "");

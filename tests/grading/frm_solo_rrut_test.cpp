@@ -1,19 +1,21 @@
 // The student list of the reading run's rut dialogue.
+#include "grading/screens/frm_solo_rrut.h"
+
 #include <gtest/gtest.h>
 
 #include "app/estado.h"
-#include "grading/screens/frm_solo_rrut.h"
 #include "platform/base_datos.h"
 #include "support/base_temporal.h"
 
 namespace {
 
 class SoloRut : public BaseTemporal {
-protected:
+  protected:
     void SetUp() override {
         BaseTemporal::SetUp();
         ASSERT_TRUE(Arranca());
-        for (const char* fila : {"'2-7', 'Zúñiga Pía', '1A'", "'1-9', 'Araya Tomás', '1A'", "'3-5', 'Otro', '1B'"})
+        for (const char* fila :
+             {"'2-7', 'Zúñiga Pía', '1A'", "'1-9', 'Araya Tomás', '1A'", "'3-5', 'Otro', '1B'"})
             estado().BaseDatos->Execute(QString("insert into ALUMNOS values (%1, '0')").arg(fila));
     }
 };
