@@ -10,7 +10,7 @@
 #include "analysis/analisis_curso.h"
 #include "analysis/exporta_planilla.h"
 #include "app/estado.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"

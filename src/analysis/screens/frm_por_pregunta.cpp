@@ -11,7 +11,7 @@
 #include "analysis/analisis_pregunta.h"
 #include "analysis/exporta_planilla.h"
 #include "app/estado.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/screens/impresion.h"

@@ -20,6 +20,7 @@
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 
 namespace {
 
@@ -54,12 +55,12 @@ void Frm_Correccion::Construye() {
     Lbl_Asignatura = new QLabel(this);
     Lbl_Ajuste_40 = new QLabel(this);
     Lst_Eliminadas = new QListWidget(this);
-    XPButton1 = Boton_Orden(this, QStringLiteral("XPButton1"), QStringLiteral("Recorregir"),
-                            [this] { Recorrige_Pruebas(); });
-    XPButton2 = Boton_Orden(this, QStringLiteral("XPButton2"), QStringLiteral("Grabar"),
-                            [this] { XPButton2_Click(); });
-    auto* cancelar = Boton_Orden(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
-                                 [this] { close(); });
+    XPButton1 = Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Recorregir"),
+                      [this] { Recorrige_Pruebas(); });
+    XPButton2 = Boton(this, QStringLiteral("XPButton2"), QStringLiteral("Grabar"),
+                      [this] { XPButton2_Click(); });
+    auto* cancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
+                           [this] { close(); });
     auto* datos = new QFormLayout;
     datos->addRow(QStringLiteral("Prueba:"), LblNombrePrueba);
     datos->addRow(QStringLiteral("Asignatura:"), Lbl_Asignatura);

@@ -17,6 +17,7 @@
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/planilla.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
 
 namespace {
@@ -49,12 +50,12 @@ void FrmEvaCorrecion::Construye() {
     Lbl_Desviacion = etiqueta(QStringLiteral("Desviación estándar:"));
     datos->addRow(Panel_Escala());
     datos->addRow(QStringLiteral("Alumno:"), CboAlumnos);
-    datos->addRow(Boton_Orden(this, "XPButton4", QStringLiteral("Eliminar Alumno"),
-                              [this] { XPButton4_Click(); }));
-    datos->addRow(Boton_Orden(this, "XPButton1", QStringLiteral("Exportar Excel"),
-                              [this] { XPButton1_Click(); }));
-    datos->addRow(
-        Boton_Orden(this, "XPButton2", QStringLiteral("Imprimir"), [this] { XPButton2_Click(); }));
+    datos->addRow(Boton(this, QStringLiteral("XPButton4"), QStringLiteral("Eliminar Alumno"),
+                        [this] { XPButton4_Click(); }));
+    datos->addRow(Boton(this, QStringLiteral("XPButton1"), QStringLiteral("Exportar Excel"),
+                        [this] { XPButton1_Click(); }));
+    datos->addRow(Boton(this, QStringLiteral("XPButton2"), QStringLiteral("Imprimir"),
+                        [this] { XPButton2_Click(); }));
     auto* tabla = Vista_Lectura(SprEvaCorrec, this);
     auto* alumno = Vista_Lectura(SpsSoloAlumno, this);
     for (QTableView* v : {tabla, alumno}) v->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -80,24 +81,29 @@ QWidget* FrmEvaCorrecion::Panel_Escala() {
     Txt_Maxima_7 = Campo(panel, QString());
     auto* capa = new QGridLayout(panel);
     capa->addWidget(new QLabel(QStringLiteral("% para nota 4"), panel), 0, 0);
-    capa->addWidget(
-        Boton_Orden(panel, "CmdAbajo1", QStringLiteral("-"), [this] { CmdAbajo1_Click(); }), 0, 1);
+    capa->addWidget(Boton(panel, QStringLiteral("CmdAbajo1"), QStringLiteral("-"),
+                          [this] { CmdAbajo1_Click(); }),
+                    0, 1);
     capa->addWidget(XminText, 0, 2);
     capa->addWidget(
-        Boton_Orden(panel, "CmdArri4", QStringLiteral("+"), [this] { CmdArri4_Click(); }), 0, 3);
+        Boton(panel, QStringLiteral("CmdArri4"), QStringLiteral("+"), [this] { CmdArri4_Click(); }),
+        0, 3);
     capa->addWidget(new QLabel(QStringLiteral("% para nota 7"), panel), 1, 0);
-    capa->addWidget(
-        Boton_Orden(panel, "CmdAbajo2", QStringLiteral("-"), [this] { CmdAbajo2_Click(); }), 1, 1);
+    capa->addWidget(Boton(panel, QStringLiteral("CmdAbajo2"), QStringLiteral("-"),
+                          [this] { CmdAbajo2_Click(); }),
+                    1, 1);
     capa->addWidget(XmaxText, 1, 2);
     capa->addWidget(
-        Boton_Orden(panel, "CmdArri6", QStringLiteral("+"), [this] { CmdArri6_Click(); }), 1, 3);
+        Boton(panel, QStringLiteral("CmdArri6"), QStringLiteral("+"), [this] { CmdArri6_Click(); }),
+        1, 3);
     capa->addWidget(new QLabel(QStringLiteral("Ajuste de Nota 4"), panel), 2, 0);
     capa->addWidget(Txt_Minima_4, 2, 2);
     capa->addWidget(new QLabel(QStringLiteral("Ajuste de Nota 7"), panel), 3, 0);
     capa->addWidget(Txt_Maxima_7, 3, 2);
-    capa->addWidget(Boton_Orden(panel, "CmdGrabaNuevaNota", QStringLiteral("Grabar Nuevas Notas"),
-                                [this] { CmdGrabaNuevaNota_Click(); }),
-                    4, 0, 1, 4);
+    capa->addWidget(
+        Boton(panel, QStringLiteral("CmdGrabaNuevaNota"), QStringLiteral("Grabar Nuevas Notas"),
+              [this] { CmdGrabaNuevaNota_Click(); }),
+        4, 0, 1, 4);
     return panel;
 }
 

@@ -13,15 +13,22 @@
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 #include "store/rut.h"
 
 namespace {
 
-BaseDatos& Base() { return *estado().BaseDatos; }
-int16_t Id() { return estado().Id_Prueba_Actual; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
+int16_t Id() {
+    return estado().Id_Prueba_Actual;
+}
 
 // A stored number as the statements take it: a decimal comma becomes a point.
-QVariant Numero(const QVariant& v) { return v.isNull() ? v : QVariant(Val(v.toString().replace(',', '.'))); }
+QVariant Numero(const QVariant& v) {
+    return v.isNull() ? v : QVariant(Val(v.toString().replace(',', '.')));
+}
 
 }  // namespace
 
@@ -45,15 +52,12 @@ FrmModfRut::FrmModfRut(Grilla* resumen, QWidget* padre) : QDialog(padre), resume
     capa->addRow(QStringLiteral("Forma correcta:"), CmbForma);
     capa->addRow(XPButMoForma);
     capa->addRow(XPButCancelar);
-    connect(XPButModifica, &QPushButton::clicked, this, [this] { Ejecutar_Comando([this] { XPButModifica_Click(); }); });
-    connect(XPButMoForma, &QPushButton::clicked, this, [this] { Ejecutar_Comando([this] { XPButMoForma_Click(); }); });
+    connect(XPButModifica, &QPushButton::clicked, this,
+            [this] { Ejecutar_Comando([this] { XPButModifica_Click(); }); });
+    connect(XPButMoForma, &QPushButton::clicked, this,
+            [this] { Ejecutar_Comando([this] { XPButMoForma_Click(); }); });
     connect(XPButCancelar, &QPushButton::clicked, this, &QDialog::reject);
-    connect(TxtRutModificado, &QLineEdit::textEdited, this, [this](const QString& t) {
-        QString limpio;  // the rut box lets only rut keys through
-        for (const QChar c : t)
-            if (Filtra_Tecla_Rut(c.unicode()) != 13) limpio += c;
-        if (limpio != t) TxtRutModificado->setText(limpio);
-    });
+    Filtra_Teclas(TxtRutModificado, [](int c) { return Filtra_Tecla_Rut(c); });
     Form_Load();
 }
 
@@ -61,7 +65,8 @@ void FrmModfRut::Form_Load() {
     const Estado& e = estado();
     LblRutaModif->setText(e.Rut_Actual);
     if (resumen_ && e.Fila_Enmienda > 0) LblForma->setText(resumen_->Celda(e.Fila_Enmienda, 6));
-    for (QWidget* w : std::initializer_list<QWidget*>{TxtRutModificado, XPButModifica, CmbForma, XPButMoForma})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{TxtRutModificado, XPButModifica, CmbForma, XPButMoForma})
         w->setEnabled(false);
     const bool rut = e.Forma_Mala || e.Rut_Malo;
     TxtRutModificado->setEnabled(rut);
@@ -88,47 +93,63 @@ void FrmModfRut::XPButModifica_Click() {
                           QStringLiteral("Validación Rut"));
         return;
     }
-    Recordset alumno = Base().OpenRecordset(QStringLiteral("SELECT PRIMERAPELLIDO FROM ALUMNOS  WHERE RUT = ?"), {nuevo});
+    Recordset alumno = Base().OpenRecordset(
+        QStringLiteral("SELECT PRIMERAPELLIDO FROM ALUMNOS  WHERE RUT = ?"), {nuevo});
     if (resumen_ && estado().Fila_Enmienda > 0) {
         resumen_->FijaCelda(estado().Fila_Enmienda, 1, alumno[0].toString());
         resumen_->FijaCelda(estado().Fila_Enmienda, 7, nuevo);
         resumen_->FijaCelda(estado().Fila_Enmienda, 8, QString());
         resumen_->SetBackColor(estado().Fila_Enmienda, 1, ColorBlanco);
     }
-    Recordset antes =
-        Base().OpenRecordset(QStringLiteral(" select * from ResultadoAlumnos_rj where rut = ? and idprueba = ?"), {viejo, Id()});
+    Recordset antes = Base().OpenRecordset(
+        QStringLiteral(" select * from ResultadoAlumnos_rj where rut = ? and idprueba = ?"),
+        {viejo, Id()});
     if (antes.Eof()) throw ErrorEjecucion(QStringLiteral("No hay registro actual."));
     // The old row's values under the new rut; the form column takes the closing 0.
     QVariantList fila{Id(), nuevo};
     for (int i = 2; i <= 9; ++i) fila << Numero(antes[i]);
     fila << 0;
-    Base().Execute(QStringLiteral(" insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"), fila);
-    Base().Execute(QStringLiteral(" delete from ResultadoAlumnos_rj  where rut = ? and idprueba = ?"), {viejo, Id()});
-    Base().Execute(QStringLiteral(" update respuesta_alumnos_por_rut set  Rut_Alumno =  ? where rut_alumno =  ? "
-                                  "and forma = ? and idprueba = ?"),
-                   {nuevo, viejo, Numero(LblForma->text()), Id()});
+    Base().Execute(
+        QStringLiteral(" insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+        fila);
+    Base().Execute(
+        QStringLiteral(" delete from ResultadoAlumnos_rj  where rut = ? and idprueba = ?"),
+        {viejo, Id()});
+    Base().Execute(
+        QStringLiteral(
+            " update respuesta_alumnos_por_rut set  Rut_Alumno =  ? where rut_alumno =  ? "
+            "and forma = ? and idprueba = ?"),
+        {nuevo, viejo, Numero(LblForma->text()), Id()});
 }
 
 void FrmModfRut::XPButMoForma_Click() {
     const QString nueva = CmbForma->currentText();
     if (nueva.isEmpty()) {
-        dialogos().MsgBox(QStringLiteral("Debe seleccionar una forma"), vbQuestion, QStringLiteral("Modificación Forma"));
+        dialogos().MsgBox(QStringLiteral("Debe seleccionar una forma"), vbQuestion,
+                          QStringLiteral("Modificación Forma"));
         return;
     }
     const QString rut = LblRutaModif->text();
     const QVariant vieja = Numero(LblForma->text());
     Recordset antes = Base().OpenRecordset(
-        QStringLiteral(" select * from ResultadoAlumnos_rj where forma = ? and  rut  = ? and idprueba = ?"),
+        QStringLiteral(
+            " select * from ResultadoAlumnos_rj where forma = ? and  rut  = ? and idprueba = ?"),
         {vieja, rut, Id()});
     if (!antes.Eof()) {
-        Base().Execute(QStringLiteral(" delete from ResultadoAlumnos_rj  where Forma = ? and idprueba = ? and rut = ?"),
-                       {vieja, Id(), rut});
+        Base().Execute(
+            QStringLiteral(
+                " delete from ResultadoAlumnos_rj  where Forma = ? and idprueba = ? and rut = ?"),
+            {vieja, Id(), rut});
         QVariantList fila;
         for (int i = 0; i <= 9; ++i) fila << (i == 1 ? antes[i] : Numero(antes[i]));
         fila << nueva;
-        Base().Execute(QStringLiteral(" insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"), fila);
+        Base().Execute(
+            QStringLiteral(
+                " insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+            fila);
     }
-    Base().Execute(QStringLiteral(" update respuesta_alumnos_por_rut set  forma =  ? where rut_alumno =  ? and idprueba = ?"),
+    Base().Execute(QStringLiteral(" update respuesta_alumnos_por_rut set  forma =  ? where "
+                                  "rut_alumno =  ? and idprueba = ?"),
                    {nueva, rut, Id()});
     Recorregir_Prueba_Nueva_Forma();
 }
@@ -137,12 +158,14 @@ void FrmModfRut::Recorregir_Prueba_Nueva_Forma() {
     const QString forma = CmbForma->currentText();
     const QString rut = estado().Rut_Actual;
     Recordset pauta = Base().OpenRecordset(
-        QStringLiteral(" select pregunta, alternativa  from Resp_preguntas_pautas where idprueba = ? and forma = ? "
+        QStringLiteral(" select pregunta, alternativa  from Resp_preguntas_pautas where idprueba = "
+                       "? and forma = ? "
                        "order by pregunta"),
         {Id(), forma});
     Llena_Tabla(SprPauta, pauta);
     Recordset resp = Base().OpenRecordset(
-        QStringLiteral(" select pregunta, alternativa  from respuesta_alumnos_por_rut where idprueba = ? and forma = ? "
+        QStringLiteral(" select pregunta, alternativa  from respuesta_alumnos_por_rut where "
+                       "idprueba = ? and forma = ? "
                        "and rut_alumno = ? order by pregunta"),
         {Id(), forma, rut});
     Llena_Tabla(SprRespuestas, resp);
@@ -158,17 +181,20 @@ void FrmModfRut::Recorregir_Prueba_Nueva_Forma() {
         else
             ++malas;
     }
-    Base().Execute(QStringLiteral(" delete from ResultadoAlumnos_rj  where rut = ? and idprueba = ?"), {rut, Id()});
+    Base().Execute(
+        QStringLiteral(" delete from ResultadoAlumnos_rj  where rut = ? and idprueba = ?"),
+        {rut, Id()});
     Grabar_Resultados_Alumnos(rut, buenas, malas, omitidas, nulas, SprPauta.MaxRows(), forma);
 }
 
-void FrmModfRut::Grabar_Resultados_Alumnos(const QString& rut, int buenas, int malas, int omitidas, int nulas, int total,
-                                           const QString& forma) {
+void FrmModfRut::Grabar_Resultados_Alumnos(const QString& rut, int buenas, int malas, int omitidas,
+                                           int nulas, int total, const QString& forma) {
     if (total == 0) throw ErrorEjecucion(QStringLiteral("División por cero"));
     const double y = buenas * 7.0 / total;
     const double nota = y < 1 ? 1 : y;
-    Base().Execute(QStringLiteral("insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, 0, ?, 0, ?, ?)"),
-                   {Id(), rut, buenas, malas, omitidas, nulas, nota, CLng(buenas * 100.0 / total), forma});
+    Base().Execute(
+        QStringLiteral("insert into ResultadoAlumnos_rj values (?, ?, ?, ?, ?, ?, 0, ?, 0, ?, ?)"),
+        {Id(), rut, buenas, malas, omitidas, nulas, nota, CLng(buenas * 100.0 / total), forma});
     const int f = estado().Fila_Enmienda;
     if (!resumen_ || f <= 0) return;
     resumen_->FijaCelda(f, 2, CStr(buenas));

@@ -9,17 +9,9 @@
 #include <QTableView>
 
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/grilla_modelo.h"
 #include "platform/screens/vista_grafico.h"
-
-QPushButton* Boton_Orden(QWidget* padre, const QString& nombre, const QString& texto,
-                         std::function<void()> comando) {
-    auto* b = new QPushButton(texto, padre);
-    b->setObjectName(nombre);
-    QObject::connect(b, &QPushButton::clicked, padre,
-                     [comando = std::move(comando)] { Ejecutar_Comando(comando); });
-    return b;
-}
 
 QTableView* Vista_Lectura(Grilla& g, QWidget* padre) {
     auto* v = new QTableView(padre);
@@ -36,12 +28,12 @@ PiezasEnsayo Arma_Ensayo(QWidget* pantalla, Grilla& alumnos, Grafico& grafico,
     for (QLineEdit* t : {p.Txt_Base, p.TxtMaximo}) t->setReadOnly(true);
     p.campos->addRow(etiqueta_base, p.Txt_Base);
     p.campos->addRow(QStringLiteral("Puntaje Máximo"), p.TxtMaximo);
-    p.campos->addRow(Boton_Orden(pantalla, QStringLiteral("XPButton1"),
-                                 QStringLiteral("Exportar Excel"), std::move(exporta)));
-    p.campos->addRow(Boton_Orden(pantalla, QStringLiteral("XPButton2"), QStringLiteral("Imprimir"),
-                                 std::move(imprime)));
-    p.campos->addRow(Boton_Orden(pantalla, QStringLiteral("XPButCancelar"), QStringLiteral("Salir"),
-                                 [pantalla] { pantalla->close(); }));
+    p.campos->addRow(Boton(pantalla, QStringLiteral("XPButton1"), QStringLiteral("Exportar Excel"),
+                           std::move(exporta)));
+    p.campos->addRow(Boton(pantalla, QStringLiteral("XPButton2"), QStringLiteral("Imprimir"),
+                           std::move(imprime)));
+    p.campos->addRow(Boton(pantalla, QStringLiteral("XPButCancelar"), QStringLiteral("Salir"),
+                           [pantalla] { pantalla->close(); }));
     auto* derecha = new QVBoxLayout;
     derecha->addLayout(p.campos);
     derecha->addWidget(new VistaGrafico(grafico, pantalla), 1);

@@ -9,7 +9,7 @@
 #include <filesystem>
 
 #include "app/estado.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"

@@ -8,7 +8,7 @@
 #include <QLabel>
 
 #include "app/estado.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"

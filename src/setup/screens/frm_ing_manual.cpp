@@ -11,7 +11,7 @@
 
 #include "app/estado.h"
 #include "grading/screens/frm_correc_pru.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"

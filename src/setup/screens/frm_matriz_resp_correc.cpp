@@ -13,7 +13,7 @@
 
 #include "app/estado.h"
 #include "masters/item_lista.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"

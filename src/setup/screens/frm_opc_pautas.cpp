@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "app/estado.h"
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/navegacion.h"
 #include "setup/screens/frm_ing_manual.h"
 

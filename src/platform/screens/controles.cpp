@@ -1,5 +1,5 @@
 // Small pieces the list and settings screens are built from.
-#include "masters/screens/controles.h"
+#include "platform/screens/controles.h"
 
 #include <QApplication>
 #include <QComboBox>

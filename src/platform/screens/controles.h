@@ -1,4 +1,4 @@
-// Small pieces the list and settings screens are built from: command buttons that run inside
+// Small pieces the screens are built from: command buttons that run inside
 // the command boundary, key filters of text boxes, capitals as typed, grids in a table view.
 #pragma once
 
