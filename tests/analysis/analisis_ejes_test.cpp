@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "analysis/prueba_ejes.h"
 #include "app/estado.h"
 #include "platform/error_ejecucion.h"
 #include "platform/grilla.h"
-#include "support/base_temporal.h"
 
 namespace {
 
@@ -64,39 +64,8 @@ TEST(AnalisisEjes, VeintiunEjesEscribenSobreElVigesimo) {
     EXPECT_EQ(fila, QStringList({"Forma", "Buenas", "Buenas", "Logro"}));
 }
 
-class Ejes : public BaseTemporal {
+class Ejes : public PruebaEjes {
   protected:
-    void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
-        Ejecuta(
-            "insert into prueba_rj values (4, 'Unidad 1', 'GENERAL', 'Ana Díaz', "
-            "'Historia', '2° Medio B', 1, '02-03-2026', 30, 0, 5, 'S', null)");
-        estado().Id_Prueba_Actual = 4;
-        estado().Tipo_Prueba_Actual = "GENERAL";
-        estado().Tipo_Analisis = "EJE TEMATICO";
-        for (const char* e : {"Numeros", "Geometria", "Algebra"})
-            Ejecuta("insert into ejes (eje, TipoEnsayo, TipoPrueba) values (?, '', 'GENERAL')",
-                    {QString::fromLatin1(e)});
-    }
-    void Clave(int forma, const std::vector<int>& alternativas) {
-        for (size_t p = 0; p < alternativas.size(); ++p)
-            Ejecuta("insert into Resp_preguntas_pautas values (4, ?, ?, ?)",
-                    {int(p + 1), forma, alternativas[p]});
-    }
-    void Eje(int pregunta, const QString& eje) {
-        Ejecuta(
-            "insert into NEW_EJE_TEMATICO values ((select count(*) + 1 from "
-            "NEW_EJE_TEMATICO), 4, ?, ?, 'H', 1, 'GENERAL')",
-            {pregunta, eje});
-    }
-    void Alumno(const QString& rut, const QString& nombre, int forma,
-                const std::vector<int>& respuestas) {
-        Ejecuta("insert into ALUMNOS values (?, ?, '2° Medio B', '')", {rut, nombre});
-        for (size_t p = 0; p < respuestas.size(); ++p)
-            Ejecuta("insert into respuesta_alumnos_por_rut values (4, ?, ?, ?, ?)",
-                    {int(p + 1), forma, respuestas[p], rut});
-    }
     void Calcula() {
         Carga_Respuesta_Prueba(respuestas);
         Objetivos_Prueba(objetivos);
@@ -186,10 +155,8 @@ TEST_F(Ejes, ModoHabilidadesYUnEjeFueraDeLaLista) {
     Clave(1, {1, 2});
     Ejecuta("insert into objetivos values (1, 'Analizar', '', '')");
     Ejecuta("insert into objetivos values (2, 'Aplicar', '', '')");
-    Eje(1, "Numeros");
-    Eje(2, "Numeros");
-    Ejecuta("update NEW_EJE_TEMATICO set eje_objetivo = 'Otra' where numero_pregunta = 2");
-    Ejecuta("update NEW_EJE_TEMATICO set eje_objetivo = 'Analizar' where numero_pregunta = 1");
+    Eje(1, "Numeros", "Analizar");
+    Eje(2, "Numeros", "Otra");
     Alumno("1-9", "Arce", 1, {1, 1});
     estado().Tipo_Analisis = "HABILIDAD";
     Calcula();
