@@ -73,7 +73,7 @@ TEST_F(Principal, TestListIsOneInstanceBroughtToTheFront) {
     EXPECT_EQ(primera->windowTitle(), "Resumen Pruebas Ingresadas.");
     m.Accion("mnu_enc_abierta")->trigger();
     EXPECT_EQ(m.Muestra_Pantalla("frmCorrecPru"), primera);
-    EXPECT_FALSE(m.Accion("Mnu_Eje")->isEnabled())
+    EXPECT_FALSE(m.Accion("Mnu_Sep")->isEnabled())
         << "a screen not built yet is present and disabled";
 }
 
@@ -96,8 +96,12 @@ TEST_F(Principal, EachCommandSetsItsFlagsBeforeItsScreen) {
     m.Ejecuta("MnuSeteo");
     EXPECT_TRUE(estado().Seteo_Hoja);
     EXPECT_TRUE(estado().Agrega_Actual) << "left as it was";
+    // The analysis opens on no test each time: it says so, and is unloaded again.
+    guion->Espera("Correccion de pruebas");
     m.Ejecuta("Mnu_Habilidades");
     EXPECT_EQ(estado().Tipo_Analisis, "HABILIDAD");
+    EXPECT_EQ(m.Pantalla("FrmHabiliObjet"), nullptr);
+    guion->Espera("Correccion de pruebas");
     m.Ejecuta("Mnu_Eje");
     EXPECT_EQ(estado().Tipo_Analisis, "EJE TEMATICO");
     guion->Espera("Modificación de Alternativas...");  // its screen opens on no test

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "analysis/screens/frm_analisis_cua.h"
+#include "analysis/screens/frm_habili_objet.h"
 #include "analysis/screens/frm_por_pregunta.h"
 #include "app/estado.h"
 #include "app/menu_principal.h"
@@ -74,6 +75,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("Frm_Grises")] = [] { return new Frm_Grises; };
     fabricas_[QStringLiteral("FrmAnalisis_Cua")] = [] { return new FrmAnalisis_Cua; };
     fabricas_[QStringLiteral("FrmPorPregunta")] = [] { return new FrmPorPregunta; };
+    fabricas_[QStringLiteral("FrmHabiliObjet")] = [] { return new FrmHabiliObjet; };
     fabricas_[QStringLiteral("Frm_Mod_Nota")] = [] { return new Frm_Mod_Nota; };
     fabricas_[QStringLiteral("Frm_Correccion")] = [] { return new Frm_Correccion; };
     fabricas_[QStringLiteral("FrmEvaCorrecion")] = [] { return new FrmEvaCorrecion; };
