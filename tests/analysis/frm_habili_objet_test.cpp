@@ -112,6 +112,7 @@ TEST_F(HabiliObjet, UnaFormaExportaCadaTipoConSuNombre) {
     } casos[] = {{&FrmHabiliObjet::XPButton1_Click, "t5.xlsx", "B1", "CANTIDAD"},
                  {&FrmHabiliObjet::CmdExportaAlumnos_Click, "t6.xlsx", "C2", "BUENAS"},
                  {&FrmHabiliObjet::XPButton4_Click, "t7.xlsx", "B5", "Algebra"},
+                 {&FrmHabiliObjet::XPButton5_Click, "t8.xlsx", "B2", " BUENAS"},
                  {&FrmHabiliObjet::XPButton6_Click, "t9.xlsx", "A3", "Arce"}};
     for (const auto& c : casos) {
         const QString ruta = Ruta(c.archivo);
