@@ -12,6 +12,7 @@
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/cabecera_grupos.h"
 #include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
 #include "platform/screens/vista_grafico.h"
@@ -20,50 +21,6 @@
 namespace {
 
 const MargenesImpresion kMargenes{1440, 900, 720, 600};
-
-// Two header rows over the students: the axis over each group of five columns from the
-// second, the column's own head below it.
-class CabeceraEjes : public QHeaderView {
-  public:
-    explicit CabeceraEjes(QWidget* padre) : QHeaderView(Qt::Horizontal, padre) {
-        setDefaultAlignment(Qt::AlignCenter);
-    }
-    // The axis over each view column (grid column - 1).
-    void Fija(QStringList ejes) {
-        ejes_ = std::move(ejes);
-        viewport()->update();
-    }
-
-    QSize sizeHint() const override {
-        QSize s = QHeaderView::sizeHint();
-        s.setHeight(2 * fontMetrics().height() + 12);
-        return s;
-    }
-
-  protected:
-    void paintSection(QPainter* p, const QRect& rect, int columna) const override {
-        if (columna < 1) return QHeaderView::paintSection(p, rect, columna);
-        const int mitad = rect.height() / 2;
-        p->save();
-        QHeaderView::paintSection(p, rect.adjusted(0, mitad, 0, 0), columna);
-        p->restore();
-        const int primera = 1 + (columna - 1) / 5 * 5;
-        int ancho = 0;
-        for (int c = primera; c < primera + 5; ++c) ancho += sectionSize(c);
-        QStyleOptionHeader op;
-        initStyleOption(&op);
-        op.rect = QRect(sectionViewportPosition(primera), rect.top(), ancho, mitad);
-        op.text = ejes_.value(columna);
-        op.textAlignment = Qt::AlignCenter;
-        p->save();
-        p->setClipRect(QRect(rect.left(), rect.top(), rect.width(), mitad));
-        style()->drawControl(QStyle::CE_Header, &op, p, this);
-        p->restore();
-    }
-
-  private:
-    QStringList ejes_;
-};
 
 QString Pide_Archivo() {
     return dialogos().GuardarArchivo(
@@ -100,7 +57,7 @@ FrmHabiliObjet::FrmHabiliObjet(QWidget* padre) : QWidget(padre) {
     arriba->addWidget(superior, 3);
     arriba->addWidget(new VistaGrafico(MSChart1, this), 2);
     vista_pantalla_ = Vista_Grilla(this, QStringLiteral("SprPantalla"), SprPantalla, {});
-    vista_pantalla_->setHorizontalHeader(new CabeceraEjes(vista_pantalla_));
+    vista_pantalla_->setHorizontalHeader(new CabeceraGrupos(vista_pantalla_));
     vista_pantalla_->horizontalHeader()->setDefaultSectionSize(86);
     vista_pantalla_->verticalHeader()->setMinimumWidth(200);
     auto* izquierda = new QVBoxLayout;
@@ -176,7 +133,7 @@ void FrmHabiliObjet::Form_Load() {
 
 void FrmHabiliObjet::Muestra_Cabecera() {
     const QStringList ejes = Cabecera_Ejes(SprSuperior, (SprPantalla.MaxCols() - 1) / 5);
-    static_cast<CabeceraEjes*>(vista_pantalla_->horizontalHeader())->Fija(ejes.mid(1));
+    static_cast<CabeceraGrupos*>(vista_pantalla_->horizontalHeader())->Fija(ejes.mid(1));
 }
 
 void FrmHabiliObjet::Recalcula_Forma() {

@@ -11,9 +11,10 @@
 #include "analysis/analisis_pregunta.h"
 #include "analysis/exporta_planilla.h"
 #include "app/estado.h"
-#include "platform/screens/controles.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/cabecera_grupos.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
 #include "platform/screens/vista_grafico.h"
 #include "store/copias_prueba.h"
@@ -24,52 +25,11 @@ const MargenesImpresion kMargenes{1440, 900, 720, 600};
 const QString kCantidad = QStringLiteral("Cantidad");
 const QString kCant = QStringLiteral("Cant.");
 
-// Two header rows: a group name over each pair of columns, the column's own head below it.
-// Columns without a group show their head over both rows.
-class CabeceraDoble : public QHeaderView {
-  public:
-    CabeceraDoble(QStringList grupos, QWidget* padre)
-        : QHeaderView(Qt::Horizontal, padre), grupos_(std::move(grupos)) {
-        setDefaultAlignment(Qt::AlignCenter);
-    }
-
-    QSize sizeHint() const override {
-        QSize s = QHeaderView::sizeHint();
-        s.setHeight(2 * fontMetrics().height() + 12);
-        return s;
-    }
-
-  protected:
-    void paintSection(QPainter* p, const QRect& rect, int columna) const override {
-        const QString grupo = grupos_.value(columna);
-        if (grupo.isEmpty()) return QHeaderView::paintSection(p, rect, columna);
-        const int mitad = rect.height() / 2;
-        p->save();
-        QHeaderView::paintSection(p, rect.adjusted(0, mitad, 0, 0), columna);
-        p->restore();
-        // The group cell covers its pair; each section paints its own part of it.
-        const int primera = grupos_.value(columna - 1) == grupo ? columna - 1 : columna;
-        const int ancho = sectionSize(primera) + sectionSize(primera + 1);
-        QStyleOptionHeader op;
-        initStyleOption(&op);
-        op.rect = QRect(sectionViewportPosition(primera), rect.top(), ancho, mitad);
-        op.text = grupo;
-        op.textAlignment = Qt::AlignCenter;
-        p->save();
-        p->setClipRect(QRect(rect.left(), rect.top(), rect.width(), mitad));
-        style()->drawControl(QStyle::CE_Header, &op, p, this);
-        p->restore();
-    }
-
-  private:
-    QStringList grupos_;
-};
-
 // A count column is as wide as its head `cantidad`.
 QTableView* Vista(QWidget* padre, const QString& nombre, Grilla& grilla, const QStringList& grupos,
                   const QString& cantidad) {
     auto* vista = Vista_Grilla(padre, nombre, grilla, {});
-    vista->setHorizontalHeader(new CabeceraDoble(grupos, vista));
+    vista->setHorizontalHeader(new CabeceraGrupos(vista, grupos));
     QHeaderView* cabecera = vista->horizontalHeader();
     const int ancho = std::max(46, cabecera->fontMetrics().horizontalAdvance(cantidad) + 16);
     for (int c = 0; c < grilla.MaxCols() - 2; ++c) cabecera->resizeSection(c, c % 2 ? 46 : ancho);
