@@ -61,11 +61,10 @@ TEST(AnalisisCurso, LasBandas4_8Y12CuentanEn16Bits) {
     EXPECT_EQ(otra.Porcentaje(3), "100 %");
 }
 
-class Analisis : public BaseTemporal {
+class Analisis : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (4, 'Unidad 1', 'GENERAL', 'Ana Díaz', 'Historia', '2° "
             "Medio B', 1, "

@@ -104,11 +104,10 @@ TEST(AnalisisPregunta, RecorridoDeLasListasOrdenadas) {
     }
 }
 
-class PorPregunta : public BaseTemporal {
+class PorPregunta : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (7, 'Control 2', 'GENERAL', 'Luis Soto', "
             "'Química', '3° Medio A', 1, '02-03-2026', 3, 0, 5, 'S', null)");

@@ -7,11 +7,10 @@
 #include "app/estado.h"
 #include "support/base_temporal.h"
 
-class PruebaEjes : public BaseTemporal {
+class PruebaEjes : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (4, 'Unidad 1', 'GENERAL', 'Ana Díaz', "
             "'Historia', '2° Medio B', 1, '02-03-2026', 30, 0, 5, 'S', null)");

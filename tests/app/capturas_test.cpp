@@ -25,12 +25,11 @@
 
 namespace {
 
-class Capturas : public BaseTemporal {
+class Capturas : public BaseArrancada {
 protected:
     void SetUp() override {
         if (qEnvironmentVariableIsEmpty("ZORTA_CAPTURAS")) GTEST_SKIP() << "ZORTA_CAPTURAS no indicado";
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Llena();
     }
     void Llena() {

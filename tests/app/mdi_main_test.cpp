@@ -14,12 +14,8 @@
 
 namespace {
 
-class Principal : public BaseTemporal {
+class Principal : public BaseArrancada {
   protected:
-    void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
-    }
 };
 
 }  // namespace

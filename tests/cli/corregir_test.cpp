@@ -16,11 +16,10 @@ namespace {
 
 const char* const kLetras = "ABCDEABCDE";
 
-class ZortaCorregir : public BaseTemporal {
+class ZortaCorregir : public BaseArrancada {
   public:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         escaneo = Ruta("escaneo");
         QDir().mkpath(escaneo);
         QFile ini(Ruta("scaner.ini"));

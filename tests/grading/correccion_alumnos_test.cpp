@@ -9,11 +9,10 @@
 
 namespace {
 
-class Correccion : public BaseTemporal {
+class Correccion : public BaseArrancada {
 protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 5;
         e.Numero_Formas_Actual = 2;

@@ -9,12 +9,8 @@
 
 namespace {
 
-class Escala : public BaseTemporal {
+class Escala : public BaseArrancada {
 protected:
-    void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
-    }
     // Grades of the given scores under a minimum grade, a maximum and a variant.
     QStringList Notas(int nmin, int max, std::initializer_list<int> puntos,
                       VarianteEscala v = VarianteEscala::Corrector, int16_t porcentaje = 60) {

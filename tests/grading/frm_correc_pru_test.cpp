@@ -13,11 +13,10 @@
 
 namespace {
 
-class Resumen : public BaseTemporal {
+class Resumen : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (3, 'Historia', 'PSU', 'Ana Díaz', 'Historia', '4° Medio "
             "A', 1, "

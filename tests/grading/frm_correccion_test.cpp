@@ -16,11 +16,10 @@ namespace {
 
 const QString kTitulo = "Modificación de Alternativas...";
 
-class EnmiendaPauta : public BaseTemporal {
+class EnmiendaPauta : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 7;
         e.Numero_Formas_Actual = 1;

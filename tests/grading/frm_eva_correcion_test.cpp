@@ -15,11 +15,10 @@
 
 namespace {
 
-class Evaluacion : public BaseTemporal {
+class Evaluacion : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 7;
         e.Numero_Formas_Actual = 2;

@@ -12,11 +12,10 @@
 
 namespace {
 
-class NotaManual : public BaseTemporal {
+class NotaManual : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         estado().Id_Prueba_Actual = 7;
         estado().Rut_Actual = "12345678-5";
         Ejecuta("insert into ALUMNOS values ('12345678-5', 'Carrera', '2° Medio B', '0')");

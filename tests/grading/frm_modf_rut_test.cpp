@@ -14,11 +14,10 @@
 
 namespace {
 
-class Enmienda : public BaseTemporal {
+class Enmienda : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 7;
         e.Numero_Formas_Actual = 2;

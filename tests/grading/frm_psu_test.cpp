@@ -13,11 +13,10 @@
 
 namespace {
 
-class Psu : public BaseTemporal {
+class Psu : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (6, 'Ensayo 1', 'PSU', 'Ana Díaz', 'Matemática', "
             "'4° Medio A', 1, '01-04-2026', 80, 0, 5, 'S', 1)");

@@ -12,11 +12,10 @@
 
 namespace {
 
-class Simce : public BaseTemporal {
+class Simce : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Ejecuta(
             "insert into prueba_rj values (5, 'Ensayo 1', 'SIMCE', 'Ana Díaz', 'Matemática', "
             "'2° Básico A', 1, '01-04-2026', 40, 0, 4, 'S', 1)");

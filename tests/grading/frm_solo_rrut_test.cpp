@@ -9,11 +9,10 @@
 
 namespace {
 
-class SoloRut : public BaseTemporal {
+class SoloRut : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         for (const char* fila :
              {"'2-7', 'Zúñiga Pía', '1A'", "'1-9', 'Araya Tomás', '1A'", "'3-5', 'Otro', '1B'"})
             estado().BaseDatos->Execute(QString("insert into ALUMNOS values (%1, '0')").arg(fila));

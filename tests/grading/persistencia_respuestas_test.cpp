@@ -10,11 +10,10 @@
 
 namespace {
 
-class Persistencia : public BaseTemporal {
+class Persistencia : public BaseArrancada {
 protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         estado().Id_Prueba_Actual = 5;
         Ejecuta("insert into prueba_rj (IdPrueba, NombrePrueba, Numero_Forma, Pregunta_Seleccion, ingreso_pauta) "
                 "values (5, 'Ciencias', 2, 4, 'N')");

@@ -12,8 +12,7 @@
 #include "platform/dialogos.h"
 
 void Maestros::SetUp() {
-    BaseTemporal::SetUp();
-    ASSERT_TRUE(Arranca());
+    BaseArrancada::SetUp();
 }
 
 QString Maestros::Lista(const QString& nombre) {

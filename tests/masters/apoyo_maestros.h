@@ -6,7 +6,7 @@
 
 #include "support/base_temporal.h"
 
-class Maestros : public BaseTemporal {
+class Maestros : public BaseArrancada {
   protected:
     void SetUp() override;
 

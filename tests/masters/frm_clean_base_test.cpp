@@ -16,11 +16,10 @@
 
 namespace {
 
-class Inicializa : public BaseTemporal {
+class Inicializa : public BaseArrancada {
   protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         for (int id : {1, 2, 5}) {
             Ejecuta("insert into prueba_rj (IdPrueba, NombrePrueba) values (?, 'Prueba')", {id});
             Ejecuta("insert into Resp_preguntas_pautas values (?, 1, 1, 1)", {id});

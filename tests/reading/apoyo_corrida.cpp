@@ -41,8 +41,7 @@ QString Codigos_Alumno(const std::string& letras) {
 }
 
 void CorridaPrueba::SetUp() {
-    BaseTemporal::SetUp();
-    ASSERT_TRUE(Arranca());
+    BaseArrancada::SetUp();
     escaneo = Ruta(QStringLiteral("escaneo"));
     ASSERT_TRUE(QDir().mkpath(escaneo));
     QFile ini(Ruta(QStringLiteral("scaner.ini")));

@@ -34,7 +34,7 @@ DisenoHoja Hoja_Alumno(const std::string& letras, int forma, const QString& rut,
 // The store codes of a student's letters: A-E 1-5, '.' 6, 'N' 7.
 QString Codigos_Alumno(const std::string& letras);
 
-class CorridaPrueba : public BaseTemporal {
+class CorridaPrueba : public BaseArrancada {
   public:
     static constexpr int kPrueba = 7;
 

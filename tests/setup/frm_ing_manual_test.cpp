@@ -15,11 +15,10 @@
 
 namespace {
 
-class IngresoManual : public BaseTemporal {
+class IngresoManual : public BaseArrancada {
 protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 6;
         e.Preguntas_Actual = 100;

@@ -10,11 +10,10 @@
 
 namespace {
 
-class Matriz : public BaseTemporal {
+class Matriz : public BaseArrancada {
 protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         Estado& e = estado();
         e.Id_Prueba_Actual = 5;
         e.Numero_Formas_Actual = 1;

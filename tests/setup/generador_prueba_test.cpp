@@ -19,11 +19,10 @@
 
 namespace {
 
-class Creacion : public BaseTemporal {
+class Creacion : public BaseArrancada {
 protected:
     void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
+        BaseArrancada::SetUp();
         navegacion().muestra = [this](const QString& n) { pedidas << n; return nullptr; };
     }
     void TearDown() override {

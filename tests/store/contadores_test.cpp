@@ -10,12 +10,8 @@
 
 namespace {
 
-class Contadores : public BaseTemporal {
+class Contadores : public BaseArrancada {
 protected:
-    void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
-    }
 };
 
 }  // namespace

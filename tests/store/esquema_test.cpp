@@ -8,12 +8,8 @@
 
 namespace {
 
-class Esquema : public BaseTemporal {
+class Esquema : public BaseArrancada {
 protected:
-    void SetUp() override {
-        BaseTemporal::SetUp();
-        ASSERT_TRUE(Arranca());
-    }
     QStringList Columnas(const QString& tabla) {
         QStringList c;
         Recordset rs = estado().BaseDatos->OpenRecordset("select * from " + tabla + " limit 0");

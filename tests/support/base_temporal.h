@@ -2,13 +2,14 @@
 // boxes, and the real start-up.
 #pragma once
 
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <QTemporaryDir>
 
 #include "support/dialogos_guion.h"
 
 class BaseTemporal : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override;
     void TearDown() override;
 
@@ -22,4 +23,13 @@ protected:
 
     QTemporaryDir carpeta;
     DialogosGuion* guion = nullptr;
+};
+
+// The same, with the start-up already run: the store of a test that needs no boxes to open.
+class BaseArrancada : public BaseTemporal {
+  protected:
+    void SetUp() override {
+        BaseTemporal::SetUp();
+        ASSERT_TRUE(Arranca());
+    }
 };
