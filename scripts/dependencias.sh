@@ -3,7 +3,7 @@
 # missing ones, so a second run does nothing. Also makes a comma-decimal locale (es_CL) so the
 # tests can show numbers keep their point under it.
 set -euo pipefail
-paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite qt6-charts-dev
+paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite qt6-charts-dev libqt6opengl6-dev qt6-translations-l10n
           libxlsxwriter-dev libzip-dev libfreexl-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
           xvfb xauth x11-apps xdotool imagemagick openbox fonts-dejavu-core locales)
 sudo=""
