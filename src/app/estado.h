@@ -6,12 +6,11 @@
 #include <cstdint>
 #include <memory>
 
-class BaseDatos;
-class Recordset;
+#include "platform/base_datos.h"
 
 struct Estado {
     // The one open handle on the store, and the one query many screens use in turn.
-    std::shared_ptr<::BaseDatos> BaseDatos;
+    ManijaBase BaseDatos;
     std::shared_ptr<::Recordset> Consulta_Actual;
 
     // The current test: set when a test is chosen on the list or created. 0 means none.

@@ -14,6 +14,3 @@ QString Ruta_Base();
 // Start-up up to the test list. False when the program must end (the store engine is missing
 // or the store can't be opened; the box has been shown).
 bool MDIForm_Load();
-
-// Brings an older store up to the present tables; each failed statement is ignored.
-void Migra_Esquema();

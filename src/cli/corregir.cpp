@@ -136,11 +136,6 @@ int Cmd_Corregir(const QStringList& args) {
     }
     Instala_Dialogos(std::make_unique<DialogosCorregir>(salida));
     if (!MDIForm_Load()) return 1;
-    // The store closes before the application object goes.
-    const std::unique_ptr<Estado, void (*)(Estado*)> cierra(&estado(), [](Estado* e) {
-        e->Consulta_Actual.reset();
-        e->BaseDatos.reset();
-    });
     if (!Elige_Prueba(a)) {
         err << "zorta corregir: no existe la prueba " << a.prueba << "\n";
         return 1;

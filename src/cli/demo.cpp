@@ -134,7 +134,6 @@ int Cmd_Demo(const QStringList& args) {
     if (!MDIForm_Load()) return 1;
     const QString carpeta = Carpeta_Escaneo();
     const int16_t id = Prepara(alumnos, carpeta);
-    estado().BaseDatos.reset();  // closed before the application object goes
     salida << "Prueba " << id << " \"Ensayo de demostración\": " << alumnos << " hojas en "
            << QDir::toNativeSeparators(carpeta) << Qt::endl;
     return 0;

@@ -5,26 +5,45 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <QUrl>
+#include <set>
 
 #include "platform/error_ejecucion.h"
+#include "platform/errores_base.h"
 
 namespace {
 
-[[noreturn]] void Falla(const QSqlError& error, const QString& sql) {
-    throw ErrorEjecucion(QStringLiteral("Error en la base de datos: %1\n%2")
-                             .arg(error.text().trimmed(), sql.trimmed()));
+// The handles open now, so that the command boundary can settle each of them. Never
+// destroyed, so that a handle closed late at exit still finds it.
+std::set<BaseDatos*>& Abiertas() {
+    static auto* abiertas = new std::set<BaseDatos*>;
+    return *abiertas;
+}
+
+QStringList Columnas(const QSqlDatabase& db, const QString& tabla) {
+    QStringList columnas;
+    if (tabla.isEmpty()) return columnas;
+    const QSqlRecord r = db.record(tabla);
+    for (int i = 0; i < r.count(); ++i) columnas << r.fieldName(i);
+    return columnas;
+}
+
+[[noreturn]] void Falla(const QSqlDatabase& db, const QSqlError& error, const QString& sql,
+                        const QVariantList& parametros = {}) {
+    throw ErrorEjecucion(
+        Explica_Error_Base(error, sql, parametros, Columnas(db, Tabla_Duplicada(error))));
 }
 
 QSqlQuery Prepara(const QSqlDatabase& db, const QString& sql, const QVariantList& parametros) {
     QSqlQuery q(db);
     q.setForwardOnly(true);
-    if (!q.prepare(sql)) Falla(q.lastError(), sql);
+    if (!q.prepare(sql)) Falla(db, q.lastError(), sql);
     // A text is never NULL: an empty box is stored as an empty text, as the statements write it.
     for (const QVariant& p : parametros)
         q.addBindValue(p.typeId() == QMetaType::QString && p.toString().isNull()
                            ? QVariant(QStringLiteral(""))
                            : p);
-    if (!q.exec()) Falla(q.lastError(), sql);
+    if (!q.exec()) Falla(db, q.lastError(), sql, parametros);
     return q;
 }
 
@@ -84,9 +103,17 @@ void Recordset::Update() {
 }
 
 BaseDatos::BaseDatos(QString ruta, QString conexion)
-    : ruta_(std::move(ruta)), conexion_(std::move(conexion)) {}
+    : ruta_(std::move(ruta)), conexion_(std::move(conexion)) {
+    Abiertas().insert(this);
+}
 
 BaseDatos::~BaseDatos() {
+    Abiertas().erase(this);
+    try {
+        Asienta();
+    } catch (const ErrorEjecucion&) {
+        // What could not be settled stays in the journal, which the next opening reads.
+    }
     {
         QSqlDatabase d = db();
         d.close();
@@ -98,22 +125,33 @@ QSqlDatabase BaseDatos::db() const {
     return QSqlDatabase::database(conexion_, false);
 }
 
-std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta) {
+std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta, Apertura modo) {
     static QAtomicInt contador;
     const QString conexion = QStringLiteral("zorta_%1").arg(contador.fetchAndAddRelaxed(1));
     std::shared_ptr<BaseDatos> base(new BaseDatos(ruta, conexion));
     {
         QSqlDatabase d = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), conexion);
-        d.setDatabaseName(ruta);
-        d.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+        if (modo == Apertura::Consulta) {
+            QUrl url = QUrl::fromLocalFile(ruta);
+            url.setQuery(QStringLiteral("immutable=1"));
+            d.setDatabaseName(url.toString(QUrl::FullyEncoded));
+            d.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
+        } else {
+            d.setDatabaseName(ruta);
+            d.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+        }
         if (!d.open())
             throw ErrorEjecucion(QStringLiteral("No se pudo abrir la base de datos %1: %2")
                                      .arg(ruta, d.lastError().text()));
     }
     // Reading the journal mode touches the file header: a file that is not a store fails here.
     try {
-        base->Execute(QStringLiteral("PRAGMA journal_mode=WAL"));
-        base->Execute(QStringLiteral("PRAGMA synchronous=FULL"));
+        if (modo == Apertura::Consulta)
+            base->OpenRecordset(QStringLiteral("select count(*) from sqlite_master"));
+        else
+            base->Execute(modo == Apertura::Trabajo ? QStringLiteral("PRAGMA journal_mode=WAL")
+                                                    : QStringLiteral("PRAGMA journal_mode=DELETE"));
+        if (modo != Apertura::Consulta) base->Execute(QStringLiteral("PRAGMA synchronous=FULL"));
     } catch (const ErrorEjecucion& e) {
         throw ErrorEjecucion(
             QStringLiteral("No se pudo abrir la base de datos %1: %2").arg(ruta, e.texto()));
@@ -122,6 +160,7 @@ std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta) {
 }
 
 int BaseDatos::Execute(const QString& sql, const QVariantList& parametros) {
+    escrita_ = true;
     QSqlQuery q = Prepara(db(), sql, parametros);
     const int filas = q.numRowsAffected();
     q.finish();
@@ -171,15 +210,38 @@ void BaseDatos::CompactDatabase(const QString& destino) {
 }
 
 void BaseDatos::BeginTrans() {
-    if (!db().transaction()) Falla(db().lastError(), QStringLiteral("BEGIN"));
+    if (!db().transaction()) Falla(db(), db().lastError(), QStringLiteral("BEGIN"));
+    en_transaccion_ = true;
 }
 
 void BaseDatos::CommitTrans() {
-    if (!db().commit()) Falla(db().lastError(), QStringLiteral("COMMIT"));
+    if (!db().commit()) Falla(db(), db().lastError(), QStringLiteral("COMMIT"));
+    en_transaccion_ = false;
 }
 
 void BaseDatos::Rollback() {
     db().rollback();
+    en_transaccion_ = false;
+}
+
+// A truncating checkpoint: the store file gets every committed change and the journal is
+// emptied, so the file alone is a complete copy.
+void BaseDatos::Asienta() {
+    if (!escrita_ || en_transaccion_) return;
+    // The first field is 1 when another handle kept the checkpoint from finishing.
+    const Recordset rs = OpenRecordset(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    escrita_ = rs[0].toInt() != 0;
+}
+
+void BaseDatos::Asienta_Todas() {
+    for (BaseDatos* base : Abiertas()) base->Asienta();
+}
+
+BaseDatos& ManijaBase::operator*() const {
+    if (!base_)
+        throw ErrorEjecucion(
+            QStringLiteral("La base de datos está cerrada: cierre Zorta y vuelva a abrirlo."));
+    return *base_;
 }
 
 Transaccion::Transaccion(BaseDatos& base) : base_(base) {

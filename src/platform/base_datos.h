@@ -63,10 +63,17 @@ class Transaccion {
     bool confirmada_ = false;
 };
 
+// How a store file is opened: for work (WAL journal), to build a new store under a temporary
+// name (a plain rollback journal, so the finished file stands alone), or only to look at it
+// (read-only and immutable: not one byte of the file or beside it is written).
+enum class Apertura { Trabajo, Creacion, Consulta };
+
 class BaseDatos {
   public:
     // Opens (or creates) the store file; ErrorEjecucion when it can't be opened as a store.
-    static std::shared_ptr<BaseDatos> OpenDatabase(const QString& ruta);
+    static std::shared_ptr<BaseDatos> OpenDatabase(const QString& ruta,
+                                                   Apertura modo = Apertura::Trabajo);
+    // Closes after moving every stored change into the store file itself.
     ~BaseDatos();
     BaseDatos(const BaseDatos&) = delete;
     BaseDatos& operator=(const BaseDatos&) = delete;
@@ -86,6 +93,12 @@ class BaseDatos {
     void CommitTrans();
     void Rollback();
 
+    // Moves what was written since the last call from the journal into the store file, so
+    // that a copy of the file alone holds it. Does nothing inside a transaction.
+    void Asienta();
+    // The same for every open store; the command boundary calls it after each command.
+    static void Asienta_Todas();
+
     const QString& Ruta() const { return ruta_; }
 
   private:
@@ -94,4 +107,22 @@ class BaseDatos {
 
     QString ruta_;
     QString conexion_;
+    bool escrita_ = false;
+    bool en_transaccion_ = false;
+};
+
+// The shared handle on the store: used like a pointer, but a use while the store is closed is
+// a run-time error with its words, never a crash.
+class ManijaBase {
+  public:
+    ManijaBase() = default;
+    ManijaBase(std::shared_ptr<BaseDatos> base) : base_(std::move(base)) {}  // NOLINT
+    BaseDatos* operator->() const { return &**this; }
+    BaseDatos& operator*() const;
+    explicit operator bool() const { return base_ != nullptr; }
+    BaseDatos* get() const { return base_.get(); }
+    void reset() { base_.reset(); }
+
+  private:
+    std::shared_ptr<BaseDatos> base_;
 };

@@ -2,14 +2,16 @@
 #include "platform/dialogos.h"
 
 #include <exception>
+#include <optional>
 
+#include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
 
 namespace {
 
 // Before anything is installed no box can be answered: every box is cancelled.
 class DialogosMudos : public Dialogos {
-public:
+  public:
     int MsgBox(const QString&, int, const QString&) override { return vbCancel; }
     QString InputBox(const QString&, const QString&, const QString&) override { return {}; }
     QString AbrirArchivo(const QString&, const QString&) override { return {}; }
@@ -24,22 +26,46 @@ std::unique_ptr<Dialogos>& instalados() {
 
 }  // namespace
 
-Dialogos& dialogos() { return *instalados(); }
+Dialogos& dialogos() {
+    return *instalados();
+}
 
-void Instala_Dialogos(std::unique_ptr<Dialogos> nuevos) { instalados() = std::move(nuevos); }
+void Instala_Dialogos(std::unique_ptr<Dialogos> nuevos) {
+    instalados() = std::move(nuevos);
+}
 
-QString Lineas(const QStringList& lineas) { return lineas.join(QLatin1Char('\r')); }
+QString Lineas(const QStringList& lineas) {
+    return lineas.join(QLatin1Char('\r'));
+}
 
-bool Ejecutar_Comando(const std::function<void()>& comando) {
-    QString texto;
+namespace {
+
+// Runs `paso`; the words of its failure, or nothing when it ran through.
+std::optional<QString> Intenta(const std::function<void()>& paso) {
     try {
-        comando();
-        return true;
+        paso();
+        return std::nullopt;
     } catch (const ErrorEjecucion& e) {
-        texto = e.texto();
+        return e.texto();
     } catch (const std::exception& e) {
-        texto = QString::fromUtf8(e.what());
+        return QString::fromUtf8(e.what());
     }
-    dialogos().MsgBox(texto, vbCritical, QStringLiteral("Error de ejecución"));
+}
+
+}  // namespace
+
+// When the outermost command ends, what it stored is settled into the store file, so that a
+// copy of that file made now holds it.
+bool Ejecutar_Comando(const std::function<void()>& comando) {
+    static int profundidad = 0;
+    ++profundidad;
+    std::optional<QString> texto = Intenta(comando);
+    --profundidad;
+    if (profundidad == 0) {
+        const std::optional<QString> asiento = Intenta(BaseDatos::Asienta_Todas);
+        if (!texto) texto = asiento;
+    }
+    if (!texto) return true;
+    dialogos().MsgBox(*texto, vbCritical, QStringLiteral("Error de ejecución"));
     return false;
 }

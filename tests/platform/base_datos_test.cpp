@@ -107,3 +107,25 @@ TEST_F(BaseDatosPrueba, StoreUsesWriteAheadLogAndFullSync) {
     EXPECT_EQ(base->OpenRecordset("PRAGMA journal_mode")[0].toString(), "wal");
     EXPECT_EQ(base->OpenRecordset("PRAGMA synchronous")[0].toInt(), 2);
 }
+
+// A duplicate key is told in Spanish with the value that already exists, whatever the shape of
+// the statement; the engine's words come only as the detail line.
+TEST_F(BaseDatosPrueba, ADuplicateKeyNamesTheValueThatAlreadyExists) {
+    base->Execute("insert into ALUMNOS values (?, ?, ?)", {"12345678-5", "Ana", "1A"});
+    base->Execute("insert into ALUMNOS values (?, ?, ?)", {"9876543-3", "Luis", "1A"});
+    const std::vector<std::pair<QString, QVariantList>> casos = {
+        {"insert into ALUMNOS values (?, ?, ?)", {"12345678-5", "Otra", "2B"}},
+        {"insert into alumnos (curso, rut, primerapellido) values (?, ?, ?)", {"2B", "12345678-5", "Otra"}},
+        {"update ALUMNOS set rut = ? where rut = ?", {"12345678-5", "9876543-3"}},
+    };
+    for (const auto& [sql, parametros] : casos) {
+        try {
+            base->Execute(sql, parametros);
+            ADD_FAILURE() << sql.toStdString();
+        } catch (const ErrorEjecucion& e) {
+            const QStringList lineas = e.texto().split('\n');
+            EXPECT_EQ(lineas.at(0), "Ya existe en la tabla ALUMNOS un registro con Rut = '12345678-5'.") << sql.toStdString();
+            EXPECT_TRUE(lineas.at(1).startsWith("Detalle: UNIQUE constraint failed")) << lineas.at(1).toStdString();
+        }
+    }
+}

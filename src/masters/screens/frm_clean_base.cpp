@@ -14,6 +14,7 @@
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/screens/navegacion.h"
+#include "store/apertura_base.h"
 
 namespace {
 
@@ -68,10 +69,11 @@ void FrmCleanBase::XPButAceptar_Click() {
     for (const char* sql : kBorrados) estado().BaseDatos->Execute(QString::fromUtf8(sql));
     const QString base = estado().BaseDatos->Ruta();
     const QString compacta = QFileInfo(base).dir().filePath(QStringLiteral("BaseNota_compac.db"));
-    estado().BaseDatos.reset();
+    Cierra_Base();
     Compactar_Base(base, compacta);
     if (Compactada) Reemplaza_Base(base, compacta);
-    estado().BaseDatos = BaseDatos::OpenDatabase(base);
+    // A store that can't be reopened leaves the handle closed: every later command says so.
+    estado().BaseDatos = Abre_Base(base);
     Descarga_Pantalla(QStringLiteral("frmCorrecPru"));
     dialogos().MsgBox(QStringLiteral("La base ha sido inicializada"), vbOKOnly, kTitulo);
 }
