@@ -52,6 +52,7 @@ TEST_F(Alumnos, SaveChecksInOrderAndWritesNothingOnRefusal) {
     EXPECT_EQ(Cuenta("ALUMNOS"), 0);
 }
 
+// The check letter typed in lower case is stored in capitals.
 TEST_F(Alumnos, SaveNewThenReplaceKeepsApostropheAndCutsCourse) {
     Curso("4° MEDIO A");
     FrmAlumnos f;
@@ -59,7 +60,7 @@ TEST_F(Alumnos, SaveNewThenReplaceKeepsApostropheAndCutsCourse) {
     guion->Espera("Mantención Alumnos");
     f.XPButAceptar_Click();
     EXPECT_EQ(guion->cajas[0].texto, "El Alumno se ha creado con éxito en la base de datos");
-    EXPECT_EQ(Filas("select * from ALUMNOS"), QStringList{"1000005-k|D'ALESSANDRO|4° MEDIO A|0"});
+    EXPECT_EQ(Filas("select * from ALUMNOS"), QStringList{"1000005-K|D'ALESSANDRO|4° MEDIO A|0"});
     EXPECT_EQ(f.SprAlumnos.MaxRows(), 1);
     EXPECT_TRUE(f.TxtRut->text().isEmpty() && f.TxtNombre->text().isEmpty() &&
                 f.TxtCurso->text().isEmpty());
@@ -75,8 +76,8 @@ TEST_F(Alumnos, SaveNewThenReplaceKeepsApostropheAndCutsCourse) {
     guion->Espera("Mantención Alumnos");
     f.XPButAceptar_Click();
     EXPECT_EQ(guion->cajas[3].texto,
-              "El alumno 1000005-k se ha creado con éxito en la base de datos");
-    EXPECT_EQ(Filas("select * from ALUMNOS"), QStringList{"1000005-k|OTRO NOMBRE|4° MEDIO A|0"});
+              "El alumno 1000005-K se ha creado con éxito en la base de datos");
+    EXPECT_EQ(Filas("select * from ALUMNOS"), QStringList{"1000005-K|OTRO NOMBRE|4° MEDIO A|0"});
 }
 
 TEST_F(Alumnos, DeleteAsksTwiceAndTakesAnswersAndResults) {

@@ -12,9 +12,9 @@
 #include "masters/carga_alumnos.h"
 #include "masters/carga_planilla.h"
 #include "masters/item_lista.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
 #include "store/rut.h"
 
 namespace {
@@ -121,9 +121,9 @@ bool FrmAlumnos::Falta(QLineEdit* caja, const QString& texto) {
     return true;
 }
 
-void FrmAlumnos::Inserta_Alumno() {
+void FrmAlumnos::Inserta_Alumno(const QString& rut) {
     base().Execute(QStringLiteral(" insert into ALUMNOS values (?, ?, ?, 0)"),
-                   {TxtRut->text(), TxtNombre->text(), TxtCurso->text().trimmed()});
+                   {rut, TxtNombre->text(), TxtCurso->text().trimmed()});
 }
 
 void FrmAlumnos::Limpia_Campos() {
@@ -147,18 +147,18 @@ void FrmAlumnos::XPButAceptar_Click() {
         TxtRut->setFocus();
         return;
     }
-    const QString rut = TxtRut->text();
+    const QString rut = Rut_Mayuscula(TxtRut->text());
     if (base()
             .OpenRecordset(QStringLiteral(" select rut from ALUMNOS where rut = ?"), {rut})
             .Eof()) {
-        Inserta_Alumno();
+        Inserta_Alumno(rut);
         dialogos().MsgBox(QStringLiteral("El Alumno se ha creado con éxito en la base de datos"),
                           vbInformation, windowTitle());
     } else if (dialogos().MsgBox(
                    QStringLiteral("El alumno existe en la base de datos, desea reemplazarlo"),
                    vbOKCancel + vbQuestion, windowTitle()) == vbOK) {
         base().Execute(QStringLiteral(" delete from ALUMNOS  where rut = ?"), {rut});
-        Inserta_Alumno();
+        Inserta_Alumno(rut);
         dialogos().MsgBox(QStringLiteral("El alumno ") + rut +
                               QStringLiteral(" se ha creado con éxito en la base de datos"),
                           vbInformation, windowTitle());
