@@ -8,6 +8,7 @@
 
 #include "app/estado.h"
 #include "platform/base_datos.h"
+#include "platform/screens/lista_clave.h"
 #include "support/base_temporal.h"
 #include "support/operador.h"
 
@@ -56,7 +57,8 @@ TEST_F(Matriz, LoadsLettersAxesAndSkillsOfTheForm) {
     EXPECT_EQ(Columna(f.vSEjeTemario, 2), "Otro,Edad Media,,");
     EXPECT_EQ(Columna(f.vSPregObjet, 2), "Recordar,Analizar,,");
     EXPECT_EQ(f.CmbEjetema->count(), 1) << "only the axes of the test's type";
-    EXPECT_EQ(f.CboDescripcion->itemText(0).section('@', 1), "Relacionar causas");
+    EXPECT_EQ(f.CboDescripcion->itemText(0), "Analizar");
+    EXPECT_EQ(Clave_Item(Item_Lista(*f.CboDescripcion, 0)), "Relacionar causas");
     EXPECT_EQ(f.CmbPregNum->count(), 4);
 }
 

@@ -11,10 +11,10 @@
 #include "app/estado.h"
 #include "masters/carga_alumnos.h"
 #include "masters/carga_planilla.h"
-#include "masters/item_lista.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/screens/controles.h"
+#include "platform/screens/lista_clave.h"
 #include "store/rut.h"
 
 namespace {
@@ -86,8 +86,7 @@ void FrmAlumnos::Carga_Cursos() {
     CboCurso->clear();
     for (Recordset rs = base().OpenRecordset(QStringLiteral("select * from CURSOS ")); !rs.Eof();
          rs.MoveNext())
-        CboCurso->addItem(
-            Item_Con_Clave(rs[0].toString(), rs[1].toString() + u' ' + rs[2].toString()));
+        Agrega_Item(CboCurso, rs[0].toString(), rs[1].toString() + u' ' + rs[2].toString());
     CboCurso->setCurrentIndex(-1);
 }
 
@@ -140,7 +139,7 @@ void FrmAlumnos::XPButAceptar_Click() {
                           kGeneral);
         return;
     }
-    TxtCurso->setText(Texto_Item(CboCurso->currentText()));
+    TxtCurso->setText(Texto_Item(Item_Lista(*CboCurso)));
     if (!Fnc_Valida_Rut(TxtRut->text())) {
         dialogos().MsgBox(QStringLiteral("Rut ingresado no es valido"), vbCritical,
                           QStringLiteral("Aceptar"));
@@ -234,8 +233,7 @@ void FrmAlumnos::Carga_Masiva_Por_Archivo(const QString& ruta) {
     if (!carga.completa) return;
     CboCurso->clear();
     for (int i = 0; i < carga.cursos.size(); ++i)
-        CboCurso->addItem(
-            Item_Con_Clave(carga.cursos[i], QStringLiteral("0 ") + QString::number(i + 1)));
+        Agrega_Item(CboCurso, carga.cursos[i], QStringLiteral("0 ") + QString::number(i + 1));
     CboCurso->setCurrentIndex(-1);
     dialogos().MsgBox(QStringLiteral("Se han insertado ") + QString::number(carga.fila - 1) +
                           QStringLiteral(" alumnos"),

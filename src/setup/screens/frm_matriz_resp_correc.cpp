@@ -12,13 +12,13 @@
 #include <QVBoxLayout>
 
 #include "app/estado.h"
-#include "masters/item_lista.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/screens/celda_lista.h"
 #include "platform/screens/controles.h"
 #include "platform/screens/grilla_modelo.h"
+#include "platform/screens/lista_clave.h"
 
 namespace {
 
@@ -173,7 +173,7 @@ void FrmMatrizRespCorrec::Form_Load() {
     for (Recordset rs =
              Base().OpenRecordset(QStringLiteral("select concepto, descripcion from objetivos "));
          !rs.Eof(); rs.MoveNext())
-        CboDescripcion->addItem(Item_Con_Clave(rs[0].toString(), rs[1].toString()));
+        Agrega_Item(CboDescripcion, rs[0].toString(), rs[1].toString());
     CboDescripcion->setCurrentIndex(-1);
     for (Recordset rs = Base().OpenRecordset(QStringLiteral("select Asignatura from Asignaturas"));
          !rs.Eof(); rs.MoveNext())

@@ -9,6 +9,7 @@
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/lista_clave.h"
 #include "platform/screens/navegacion.h"
 #include "setup/screens/frm_ing_manual.h"
 #include "setup/screens/generador_prueba.h"
@@ -66,7 +67,7 @@ void GeneradorPrueba::Graba_Fila() {
     tabla.Fija(QStringLiteral("NombreProfesor"), CmbProfe->currentText());
     // A PSU subject is the defined test's name, without its number of questions.
     tabla.Fija(QStringLiteral("Asignatura"),
-               CmbAsig->currentText().section(QLatin1Char('@'), 0, 0).trimmed());
+               Item_Lista(*CmbAsig).section(QLatin1Char('@'), 0, 0).trimmed());
     tabla.Fija(QStringLiteral("curso"), CmbCurso->currentText());
     tabla.Fija(QStringLiteral("Numero_Forma"), general ? Val(CmbNumForma->currentText()) : 1);
     tabla.Fija(QStringLiteral("Fecha"), txtFecha->text());
