@@ -47,7 +47,7 @@ CargaAlumnos Carga_Alumnos_Planilla(const QString& ruta) {
         }
         const QString nombre = hoja.Celda(carga.fila, QStringLiteral("B")).remove(u'\'');
         base->Execute(QStringLiteral(" insert into ALUMNOS values (?, ?, ?, ?)"),
-                      {rut, nombre, hoja.Celda(carga.fila, QStringLiteral("C")),
+                      {Rut_Mayuscula(rut), nombre, hoja.Celda(carga.fila, QStringLiteral("C")),
                        hoja.Celda(carga.fila, QStringLiteral("D"))});
     }
     carga.cursos = Rehace_Cursos(*base);

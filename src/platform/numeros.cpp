@@ -35,7 +35,9 @@ double Round(double x, int decimales) {
     return Entero_Mas_Cercano(x, s) / s;
 }
 
-int16_t CInt(double x) { return static_cast<int16_t>(Redondeo_Entero(x, -32768, 32767)); }
+int16_t CInt(double x) {
+    return static_cast<int16_t>(Redondeo_Entero(x, -32768, 32767));
+}
 
 int32_t CLng(double x) {
     return static_cast<int32_t>(Redondeo_Entero(x, -2147483648.0, 2147483647.0));
@@ -79,6 +81,16 @@ double Val(const QString& texto) {
     return ok ? v : 0.0;
 }
 
+double Numero_Digitado(const QString& texto) {
+    const QString numero = texto.trimmed().replace(QLatin1Char(','), QLatin1Char('.'));
+    if (numero.isEmpty()) return 0;
+    bool ok = false;
+    const double v = numero.toDouble(&ok);
+    if (!ok || !std::isfinite(v))
+        throw ErrorEjecucion(QStringLiteral("El valor \"%1\" no es un número.").arg(texto));
+    return v;
+}
+
 namespace {
 
 // Significant-digit text with "E+15" style exponents and no trailing zeros.
@@ -95,9 +107,19 @@ QString Texto_Numero(double x, int digitos) {
 
 }  // namespace
 
-QString CStr(double x) { return Texto_Numero(x, 15); }
-QString CStr(float x) { return Texto_Numero(static_cast<double>(x), 7); }
-QString CStr(int x) { return QString::number(x); }
-QString CStr(int64_t x) { return QString::number(x); }
+QString CStr(double x) {
+    return Texto_Numero(x, 15);
+}
+QString CStr(float x) {
+    return Texto_Numero(static_cast<double>(x), 7);
+}
+QString CStr(int x) {
+    return QString::number(x);
+}
+QString CStr(int64_t x) {
+    return QString::number(x);
+}
 
-QString Fecha_Texto(const QDate& fecha) { return fecha.toString(QStringLiteral("dd-MM-yyyy")); }
+QString Fecha_Texto(const QDate& fecha) {
+    return fecha.toString(QStringLiteral("dd-MM-yyyy"));
+}

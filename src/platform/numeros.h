@@ -20,6 +20,10 @@ float CSng(double x);
 // "4,5" is 4.
 double Val(const QString& texto);
 
+// A number typed by the operator, as it is stored: "," is read as the decimal point and the
+// spaces around it are cut; a blank text is 0. A text that is no number is ErrorEjecucion.
+double Numero_Digitado(const QString& texto);
+
 // Numbers written the way the system writes them: "7", "4.2", "28.2"; a Single keeps 7
 // significant digits ("0.1666667"), a Double 15.
 QString CStr(double x);

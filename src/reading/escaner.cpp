@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include "app/estado.h"
@@ -56,10 +57,37 @@ void Elimina_Bitmaps(const QString& carpeta) {
     }
 }
 
+namespace {
+
+// True when `ruta` names a program: an executable file, or a name on the search path.
+bool Es_Programa(const QString& ruta) {
+    if (!ruta.contains(u'/')) return !QStandardPaths::findExecutable(ruta).isEmpty();
+    const QFileInfo archivo(ruta);
+    return archivo.isFile() && archivo.isExecutable();
+}
+
+// The program and the arguments of a command line as it stands: the program is the shortest
+// start of the line, up to a space or to its end, that names a program, so a path with spaces
+// needs no quotes; what follows is split into arguments. A line whose start names no program
+// is split whole, quotes and all.
+std::pair<QString, QStringList> Partes_Linea(const QString& linea) {
+    for (qsizetype fin = linea.indexOf(u' ');; fin = linea.indexOf(u' ', fin + 1)) {
+        const QString inicio = fin < 0 ? linea : linea.left(fin);
+        if (!inicio.trimmed().isEmpty() && Es_Programa(inicio))
+            return {inicio, fin < 0 ? QStringList() : QProcess::splitCommand(linea.mid(fin + 1))};
+        if (fin < 0) break;
+    }
+    QStringList partes = QProcess::splitCommand(linea);
+    if (partes.isEmpty()) return {};
+    const QString programa = partes.takeFirst();
+    return {programa, partes};
+}
+
+}  // namespace
+
 void Inicia_Escaner(const QString& linea_comando) {
-    QStringList partes = QProcess::splitCommand(linea_comando);
-    const QString programa = partes.isEmpty() ? QString() : partes.takeFirst();
-    if (programa.isEmpty() || !QProcess::startDetached(programa, partes))
+    const auto [programa, argumentos] = Partes_Linea(linea_comando);
+    if (programa.isEmpty() || !QProcess::startDetached(programa, argumentos))
         throw ErrorEjecucion(
             QStringLiteral(
                 "No se pudo iniciar el programa de escaneo \"%1\" (línea 2 de scaner.ini).")

@@ -17,6 +17,6 @@ QStringList Archivos_Carpeta(const QString& carpeta);
 bool Es_Bitmap(const QString& texto);
 // Deletes every file of the folder whose full path holds ".bmp".
 void Elimina_Bitmaps(const QString& carpeta);
-// Starts the scanning program detached, without waiting; a program that can't be started
-// throws ErrorEjecucion.
+// Starts the scanning program of the command line as it stands (a path with spaces needs no
+// quotes), detached, without waiting; a program that can't be started throws ErrorEjecucion.
 void Inicia_Escaner(const QString& linea_comando);

@@ -22,6 +22,10 @@ bool Fnc_Valida_Rut(const QString& rut) {
     return esperado == dv;
 }
 
+QString Rut_Mayuscula(const QString& rut) {
+    return rut.toUpper();
+}
+
 QString Rut_Con_Digito(qint64 cuerpo) {
     const QString digitos = QString::number(cuerpo);
     for (const QChar dv : QStringLiteral("0123456789K"))

@@ -6,6 +6,9 @@
 // True when the last character is the check character of the body before the first "-".
 bool Fnc_Valida_Rut(const QString& rut);
 
+// The rut as it is stored and looked up: the check letter K in capitals.
+QString Rut_Mayuscula(const QString& rut);
+
 // The rut of a body with its right check character: "12345678-5".
 QString Rut_Con_Digito(qint64 cuerpo);
 

@@ -76,6 +76,21 @@ TEST_F(Enmienda, ABadRutIsRefusedAndAGoodOneMovesTheRowsKeepingTheGrade) {
     EXPECT_EQ(resumen.Celda(1, 8), "");
 }
 
+TEST_F(Enmienda, ALowerCaseCheckLetterIsStoredInCapitals) {
+    Ejecuta("insert into ALUMNOS values ('1000005-K', 'Manuel Rodríguez', '2° Medio B', '0')");
+    estado().Rut_Malo = true;
+    estado().Rut_Actual = "12345678-4";
+    FrmModfRut f(&resumen);
+    f.TxtRutModificado->setText("1000005-k");
+    f.XPButModifica_Click();
+    EXPECT_EQ(Fila("1000005-K"), "3/1/0/0/5.3/75/0");
+    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut where rut_alumno = '1000005-K'")
+                  .toInt(),
+              4);
+    EXPECT_EQ(resumen.Celda(1, 1), "Manuel Rodríguez");
+    EXPECT_EQ(resumen.Celda(1, 7), "1000005-K");
+}
+
 TEST_F(Enmienda, AStudentWithTwoFormsKeepsOnlyTheFirstRow) {
     Ejecuta("insert into ResultadoAlumnos_rj values (7, '12345678-4', 0, 0, 4, 0, 0, 1, 0, 0, 99)");
     estado().Rut_Malo = true;

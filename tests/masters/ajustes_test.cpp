@@ -34,12 +34,19 @@ TEST_F(Ajustes, MinimumGradeStoredAsTypedAndReadRounded) {
         f.XPButAceptar_Click();
         EXPECT_EQ(guion->cajas.back().texto, palabras);
     }
+    // A text that is no number is told and stores nothing.
+    f.Cbo_Nota_Base->setCurrentText("1,5x");
+    guion->Espera("Error de ejecución");
+    EXPECT_FALSE(Comando([&] { f.XPButAceptar_Click(); }));
+    EXPECT_EQ(guion->cajas.back().texto, "El valor \"1,5x\" no es un número.");
+    // Typed with a decimal comma, the grade is stored as the number.
     const int16_t actual = estado().Nota_Minima_Actual;
-    f.Cbo_Nota_Base->setCurrentText("1.5");
+    f.Cbo_Nota_Base->setCurrentText("1,5");
     guion->Espera("Niveles Calificación");
     f.XPButAceptar_Click();
     EXPECT_EQ(guion->cajas.back().texto, "Los datos han sido grabado");
-    EXPECT_EQ(Valor("select desde from NivelesCalificacion where concepto = 'NM'").toDouble(), 1.5);
+    EXPECT_EQ(Filas("select * from NivelesCalificacion where concepto = 'NM'"),
+              QStringList{"NM|1.5|0"});
     EXPECT_EQ(Fnc_Lee_Nota_Minima(), 2);
     EXPECT_EQ(estado().Nota_Minima_Actual, actual)
         << "the shared value is read again by the next run";
@@ -100,10 +107,11 @@ TEST_F(Ajustes, LevelsSavedInOrderWithoutCheckingTheFourLevels) {
     guion->Espera("Mantenedor de Niveles de Logro");
     Frm_Logros f;
     Llena(f, {70, 100, 21, 69, 0, 20, 0, 50, 40, 60, 55, 80, 10, 100});
+    f.Caja_Logro("Txt_PD_Fin")->setText("20,5");  // a decimal comma keeps its decimals
     f.XPButAceptar_Click();
     EXPECT_EQ(Filas("select * from NivelesCalificacion where concepto not in ('NM', 'L', 'PL', "
                     "'NL') order by rowid"),
-              QStringList({"D|70|100", "ND|21|69", "PD|0|20", "NB|0|50", "NMB|40|60", "NMA|55|80",
+              QStringList({"D|70|100", "ND|21|69", "PD|0|20.5", "NB|0|50", "NMB|40|60", "NMA|55|80",
                            "NA|10|100"}));
     Frm_Logros g;  // the row D exists now: no warning
     EXPECT_EQ(g.Caja_Logro("Txt_ND_Ini")->text(), "21");

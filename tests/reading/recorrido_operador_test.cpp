@@ -1,10 +1,13 @@
 // The operator's paths through the application: from an empty store to the grades on the list,
-// and from a run with a doubtful rut and an unread form to their amendment.
+// from a run with a doubtful rut and an unread form to their amendment, and from typed numbers,
+// a typed key, a matrix and a copy to the grades they mean.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTableView>
+#include <QTest>
 
 #include "apoyo_corrida.h"
 #include "app/estado.h"
@@ -14,14 +17,17 @@
 #include "masters/screens/frm_alumnos.h"
 #include "masters/screens/frm_asignatura.h"
 #include "masters/screens/frm_habilidad.h"
+#include "masters/screens/frm_nivel_eva.h"
 #include "masters/screens/frm_profesores.h"
 #include "masters/screens/frm_tab_eje_tema.h"
 #include "platform/base_datos.h"
 #include "platform/screens/navegacion.h"
 #include "reading/screens/frm_imagen.h"
 #include "setup/screens/frm_gene_pru.h"
+#include "setup/screens/frm_gene_simce_pru.h"
 #include "setup/screens/frm_ing_manual.h"
 #include "setup/screens/frm_matriz_resp_correc.h"
+#include "support/operador.h"
 
 namespace {
 
@@ -66,6 +72,25 @@ class Operador : public CorridaPrueba {
             f.SprAlterPreg.FijaCelda(p, 2, QString(QChar(letras[(p - 1) % letras.size()])));
     }
 };
+
+// The key as the guide tells: on the cell of the first question, a letter and Enter, then the
+// down arrow; a "." passes the question by with the arrow alone.
+void Teclea_Pauta(QTableView& vista, int desde, const QString& letras) {
+    Pulsa_Celda(vista, desde, 2);
+    for (const QChar letra : letras) {
+        QComboBox* lista = Lista_Abierta(vista);
+        ASSERT_NE(lista, nullptr);
+        if (letra != u'.') {
+            QTest::keyClick(lista, letra.toLatin1());
+            QTest::keyClick(lista, Qt::Key_Return);
+            QCoreApplication::processEvents();
+            QTest::keyClick(&vista, Qt::Key_Down);
+        } else {
+            QTest::keyClick(lista, Qt::Key_Down);
+        }
+        QCoreApplication::processEvents();
+    }
+}
 
 // A rut of the student list loaded from tests/data (ALUMNO i, course by i % 3).
 QString Rut_Lista(int i) {
@@ -225,4 +250,95 @@ TEST_F(Operador, ADoubtfulRutAndAnUnreadFormAreAmendedFromTheList) {
     EXPECT_TRUE(filas.contains(bueno + ":10/0/0/7/1"));
     EXPECT_TRUE(filas.contains(sin_forma + ":10/0/0/7/1"));
     EXPECT_TRUE(filas.contains(corregido + ":1/4/5/1.5/0")) << filas.join(" ").toStdString();
+}
+
+TEST_F(Operador, TypedNumbersAKeyAMatrixAndACopyReachTheGradesMeant) {
+    Carga<FrmProfesores>("profesores_150.xlsx", "Mantenedor de Profesores");
+    Carga<FrmAlumnos>("alumnos_45.xlsx", "Mantenedor de Alumnos");
+    MdiMain m;
+    m.show();
+    const auto pauta = [&](int id) {
+        return Valor(
+                   "select group_concat(alternativa, '') from (select alternativa from "
+                   "Resp_preguntas_pautas where idprueba = ? order by pregunta)",
+                   {id})
+            .toString();
+    };
+
+    // The minimum grade typed with a decimal comma: 1.5, read as 2 by the run.
+    m.Ejecuta("Mnu_Nivel");
+    auto* nivel = static_cast<FrmNivelEva*>(m.Pantalla("FrmNivelEva"));
+    nivel->Cbo_Nota_Base->setCurrentText("1,5");
+    guion->Espera("Niveles Calificación");
+    nivel->XPButAceptar_Click();
+
+    // A SIMCE test of 10 questions, its key typed with two questions passed by, then completed.
+    m.Ejecuta("mnu_ens_simce");
+    auto* simce = static_cast<FrmGeneSimcePru*>(m.Pantalla("FrmGeneSimcePru"));
+    simce->CmbProfe->setCurrentIndex(2);
+    simce->CmbCurso->setCurrentIndex(simce->CmbCurso->findText("1° MEDIO A"));
+    simce->TxtNombre->setText("SIMCE Matemática");
+    simce->CmbPreSelMul->setCurrentIndex(simce->CmbPreSelMul->findText("10"));
+    simce->CmbNunAlterxpreg->setCurrentIndex(simce->CmbNunAlterxpreg->findText("5"));
+    simce->CmbAsig->setCurrentIndex(simce->CmbAsig->findText("Matemática"));
+    guion->Espera("Confirmación");
+    simce->XPButAceptar_Click();
+    auto* manual = static_cast<FrmIngManual*>(m.Pantalla("FrmIngManual"));
+    ASSERT_NE(manual, nullptr);
+    manual->CmbNFormas->setCurrentIndex(0);
+    QTableView& teclado = *manual->findChild<QTableView*>("SprAlterPreg");
+    Teclea_Pauta(teclado, 1, "ed.ba.dcba");
+    guion->Espera("Ingreso Manual");
+    manual->XPButAceptar_Click();
+    EXPECT_EQ(guion->cajas.back().texto, "Existen alternativas en Blanco, verifique");
+    Teclea_Pauta(teclado, 3, "c");
+    Teclea_Pauta(teclado, 6, "e");
+    guion->Espera("Graba Pauta Manual", vbOK);
+    guion->Espera("Graba Pauta Manual");
+    manual->XPButAceptar_Click();
+    ASSERT_EQ(pauta(1), "5432154321");
+
+    // No screen writes the code 7 of an omitted key question; the matrix must show it as "O"
+    // and keep it when the cell is double-clicked and left. Saving gives it the code before.
+    Ejecuta("update Resp_preguntas_pautas set alternativa = 7 where idprueba = 1 and pregunta = 3");
+    Elige(m, 1);
+    m.Ejecuta("Mnu_Matriz_Prueba");
+    auto* matriz = static_cast<FrmMatrizRespCorrec*>(m.Pantalla("FrmMatrizRespCorrec"));
+    QTableView& letras = *matriz->findChild<QTableView*>("vSMatzRespCorrec");
+    Doble_Pulsa_Celda(letras, 3, 2);
+    Pulsa_Celda(letras, 4, 1);
+    EXPECT_EQ(matriz->vSMatzRespCorrec.Celda(3, 2), "O");
+    guion->Espera("Ejes Tematicos");
+    matriz->XPButActPond_Click();
+    m.Descarga("FrmMatrizRespCorrec");
+    EXPECT_EQ(pauta(1), "5442154321");
+
+    // Test 2, the copy: the same key, and no base score.
+    guion->Espera("Copia Prueba");
+    Elige(m, 1)->XPButton1_Click();
+    auto* copia = static_cast<FrmGeneSimcePru*>(m.Pantalla("FrmGeneSimcePru"));
+    ASSERT_NE(copia, nullptr);
+    copia->CmbProfe->setCurrentIndex(2);
+    copia->CmbCurso->setCurrentIndex(copia->CmbCurso->findText("1° MEDIO A"));
+    copia->TxtNombre->setText("SIMCE Matemática B");
+    guion->Espera("Confirmación");
+    copia->XPButAceptar_Click();
+    EXPECT_EQ(pauta(2), "5442154321");
+    EXPECT_EQ(Valor("select puntaje_base from prueba_rj where idprueba = 2").toInt(), 0);
+
+    // The copy's sheets. Ten questions over a minimum of 2: 6 right give 4, each right answer
+    // below adds a third, each above 0.75 (9 right: 4 + 2.25, rounded to even, 6.2).
+    const QString a = Rut_Lista(6), b = Rut_Lista(9), c = Rut_Lista(12), d = Rut_Lista(15);
+    Hoja("a.bmp", Hoja_Alumno("EDDBAEDCBA", 1, a));
+    Hoja("b.bmp", Hoja_Alumno("EDCBAEDCBA", 1, b));
+    Hoja("c.bmp", Hoja_Alumno("EDDBA.....", 1, c));
+    Hoja("d.bmp", Hoja_Alumno("..........", 1, d));
+    Elige(m, 2);
+    m.Ejecuta("nme_nue_correc");
+    guion->Espera("Fin Coreccion");
+    static_cast<FrmImagen*>(m.Pantalla("FrmImagen"))->CmdCorregir_Pruebas_Click();
+    QStringList filas = Filas(*Elige(m, 2));
+    filas.sort();
+    EXPECT_EQ(filas, QStringList({a + ":10/0/0/7/1", b + ":9/1/0/6.2/1", c + ":5/0/5/3.7/1",
+                                  d + ":0/0/10/2/1"}));
 }

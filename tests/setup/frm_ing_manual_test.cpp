@@ -1,22 +1,25 @@
 // Typing a key: the checks, one form at a time, the overwrite question.
+#include "setup/screens/frm_ing_manual.h"
+
 #include <gtest/gtest.h>
 
 #include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QTableView>
 
 #include "app/estado.h"
 #include "grading/screens/frm_correc_pru.h"
 #include "platform/base_datos.h"
 #include "platform/screens/navegacion.h"
-#include "setup/screens/frm_ing_manual.h"
 #include "setup/screens/frm_opc_pautas.h"
 #include "support/base_temporal.h"
+#include "support/operador.h"
 
 namespace {
 
 class IngresoManual : public BaseArrancada {
-protected:
+  protected:
     void SetUp() override {
         BaseArrancada::SetUp();
         Estado& e = estado();
@@ -24,8 +27,12 @@ protected:
         e.Preguntas_Actual = 100;
         e.Numero_Formas_Actual = 2;
         e.Ptje_Max_Actual = 4;
-        estado().BaseDatos->Execute("insert into prueba_rj (IdPrueba, ingreso_pauta) values (6, 'N')");
-        navegacion().muestra = [this](const QString& n) { pedidas << n; return nullptr; };
+        estado().BaseDatos->Execute(
+            "insert into prueba_rj (IdPrueba, ingreso_pauta) values (6, 'N')");
+        navegacion().muestra = [this](const QString& n) {
+            pedidas << n;
+            return nullptr;
+        };
         navegacion().descarga = [this](const QString& n) { pedidas << "descarga " + n; };
     }
     void TearDown() override {
@@ -33,12 +40,15 @@ protected:
         BaseTemporal::TearDown();
     }
     void Llena(FrmIngManual& f, const QString& letras) {
-        for (int i = 1; i <= f.SprAlterPreg.MaxRows(); ++i) f.SprAlterPreg.FijaCelda(i, 2, letras.mid((i - 1) % letras.size(), 1));
+        for (int i = 1; i <= f.SprAlterPreg.MaxRows(); ++i)
+            f.SprAlterPreg.FijaCelda(i, 2, letras.mid((i - 1) % letras.size(), 1));
     }
     QString Pauta(int forma) {
-        return Valor("select group_concat(alternativa, '') from (select alternativa from Resp_preguntas_pautas "
-                     "where idprueba = 6 and forma = ? order by pregunta)",
-                     {forma})
+        return Valor(
+                   "select group_concat(alternativa, '') from (select alternativa from "
+                   "Resp_preguntas_pautas "
+                   "where idprueba = 6 and forma = ? order by pregunta)",
+                   {forma})
             .toString();
     }
     QStringList pedidas;
@@ -50,7 +60,8 @@ TEST_F(IngresoManual, WithoutATestTheScreenStaysEmpty) {
     estado().Id_Prueba_Actual = 0;
     guion->Espera("Ingreso manual de Pruebas");
     FrmIngManual f;
-    EXPECT_EQ(guion->cajas.back().texto, "Debe tener asociado un Numero de Prueba para el Ingreso manual");
+    EXPECT_EQ(guion->cajas.back().texto,
+              "Debe tener asociado un Numero de Prueba para el Ingreso manual");
     EXPECT_EQ(f.SprAlterPreg.MaxRows(), 0);
 }
 
@@ -70,6 +81,24 @@ TEST_F(IngresoManual, ABlankInTheLastRowStopsEverything) {
     EXPECT_EQ(Valor("select count(*) from Resp_preguntas_pautas").toInt(), 0);
 }
 
+TEST_F(IngresoManual, ABlankCellClickedAndLeftStaysBlank) {
+    estado().Preguntas_Actual = 3;
+    FrmIngManual f;
+    Mostrada mostrada(f);
+    QTableView& vista = *f.findChild<QTableView*>("SprAlterPreg");
+    f.CmbNFormas->setCurrentIndex(0);
+    f.SprAlterPreg.FijaCelda(1, 2, "B");
+    f.SprAlterPreg.FijaCelda(3, 2, "C");
+    Pulsa_Celda(vista, 2, 2);
+    ASSERT_NE(Lista_Abierta(vista), nullptr);
+    Pulsa_Celda(vista, 3, 1);
+    EXPECT_EQ(f.SprAlterPreg.Celda(2, 2), "");
+    guion->Espera("Ingreso Manual");
+    f.XPButAceptar_Click();
+    EXPECT_EQ(guion->cajas.back().texto, "Existen alternativas en Blanco, verifique");
+    EXPECT_EQ(Pauta(1), "");
+}
+
 TEST_F(IngresoManual, EachFormIsStoredOnItsOwnAndTheKeyCountsAsEntered) {
     estado().Preguntas_Actual = 4;
     {
@@ -82,7 +111,8 @@ TEST_F(IngresoManual, EachFormIsStoredOnItsOwnAndTheKeyCountsAsEntered) {
         guion->Espera("Graba Pauta Manual", vbOK);
         guion->Espera("Graba Pauta Manual");
         f.XPButAceptar_Click();
-        EXPECT_EQ(guion->cajas.back().texto, "La pauta manual para la prueba 6 ha sido grabado con éxito");
+        EXPECT_EQ(guion->cajas.back().texto,
+                  "La pauta manual para la prueba 6 ha sido grabado con éxito");
     }
     EXPECT_EQ(estado().Numero_Formas_Actual, 1) << "the form saved, until the test is chosen again";
     estado().Numero_Formas_Actual = 2;
@@ -110,7 +140,8 @@ TEST_F(IngresoManual, RefusingTheOverwriteStillMarksTheKeyAndCloses) {
     guion->Espera("Creación de Pautas y Pruebas", vbCancel);
     guion->Espera("Graba Pauta Manual");
     f.XPButAceptar_Click();
-    EXPECT_EQ(guion->cajas[1].texto, "Esto Código de Prueba y Forma ya existe, desea regrabar los datos");
+    EXPECT_EQ(guion->cajas[1].texto,
+              "Esto Código de Prueba y Forma ya existe, desea regrabar los datos");
     EXPECT_EQ(Pauta(1), "3");
     EXPECT_EQ(Valor("select ingreso_pauta from prueba_rj").toString(), "S");
     FrmIngManual g;
@@ -124,16 +155,22 @@ TEST_F(IngresoManual, RefusingTheOverwriteStillMarksTheKeyAndCloses) {
 }
 
 TEST_F(IngresoManual, HandOverCopiesTheChosenTestOfTheList) {
-    estado().BaseDatos->Execute("update prueba_rj set NombrePrueba = 'Química', NombreProfesor = 'Luis', curso = '3° Medio', "
-                                "TipoPrueba = 'GENERAL', Asignatura = 'Ciencias', Numero_Forma = 2, Numero_Alternativas = 4, "
-                                "Pregunta_Seleccion = 100");
+    estado().BaseDatos->Execute(
+        "update prueba_rj set NombrePrueba = 'Química', NombreProfesor = 'Luis', curso = '3° "
+        "Medio', "
+        "TipoPrueba = 'GENERAL', Asignatura = 'Ciencias', Numero_Forma = 2, Numero_Alternativas = "
+        "4, "
+        "Pregunta_Seleccion = 100");
     frmCorrecPru lista;
     lista.SprPrincipal_Click(1);
-    navegacion().abierta = [&](const QString& n) -> QWidget* { return n == "frmCorrecPru" ? &lista : nullptr; };
+    navegacion().abierta = [&](const QString& n) -> QWidget* {
+        return n == "frmCorrecPru" ? &lista : nullptr;
+    };
     FrmOPCPautas opciones;
     opciones.OptIngpautpantalla->setChecked(true);
     opciones.XPButAceptar_Click();
-    EXPECT_EQ(pedidas, QStringList({"descarga frmCorrecPru", "descarga FrmGenePru", "FrmIngManual", "descarga frmCorrecPru"}));
+    EXPECT_EQ(pedidas, QStringList({"descarga frmCorrecPru", "descarga FrmGenePru", "FrmIngManual",
+                                    "descarga frmCorrecPru"}));
     FrmIngManual f;
     EXPECT_EQ(f.Etiqueta("LblProfesor")->text(), "Luis");
     EXPECT_EQ(f.Etiqueta("LblAsig")->text(), "Ciencias");

@@ -1,17 +1,21 @@
 // The question matrix: loading a form, assigning axes and skills, and saving it back.
+#include "setup/screens/frm_matriz_resp_correc.h"
+
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QTableView>
 
 #include "app/estado.h"
 #include "platform/base_datos.h"
-#include "setup/screens/frm_matriz_resp_correc.h"
+#include "platform/screens/lista_clave.h"
 #include "support/base_temporal.h"
+#include "support/operador.h"
 
 namespace {
 
 class Matriz : public BaseArrancada {
-protected:
+  protected:
     void SetUp() override {
         BaseArrancada::SetUp();
         Estado& e = estado();
@@ -23,7 +27,8 @@ protected:
         Ejecuta("insert into ejes values (2, 'Álgebra', 'Matemática', 'PSU')");
         Ejecuta("insert into objetivos values (1, 'Analizar', 'Relacionar causas', 'Activo')");
         const int codigos[] = {7, 2, 9, 6};
-        for (int p = 1; p <= 4; ++p) Ejecuta("insert into Resp_preguntas_pautas values (5, ?, 1, ?)", {p, codigos[p - 1]});
+        for (int p = 1; p <= 4; ++p)
+            Ejecuta("insert into Resp_preguntas_pautas values (5, ?, 1, ?)", {p, codigos[p - 1]});
     }
     static QString Columna(const Grilla& g, int c) {
         QStringList v;
@@ -38,11 +43,13 @@ TEST_F(Matriz, WithoutATestItSaysSo) {
     estado().Id_Prueba_Actual = 0;
     guion->Espera("Analisis Cualitativo");
     FrmMatrizRespCorrec f;
-    EXPECT_EQ(guion->cajas.back().texto, "No tiene numero de prueba asociado, selecione una prueba para visualizar");
+    EXPECT_EQ(guion->cajas.back().texto,
+              "No tiene numero de prueba asociado, selecione una prueba para visualizar");
 }
 
 TEST_F(Matriz, LoadsLettersAxesAndSkillsOfTheForm) {
-    Ejecuta("insert into NEW_EJE_TEMATICO values (8, 5, 2, 'Edad Media', 'Analizar', 1, 'GENERAL')");
+    Ejecuta(
+        "insert into NEW_EJE_TEMATICO values (8, 5, 2, 'Edad Media', 'Analizar', 1, 'GENERAL')");
     Ejecuta("insert into NEW_EJE_TEMATICO values (7, 5, 1, 'Otro', 'Recordar', 1, 'GENERAL')");
     FrmMatrizRespCorrec f;
     EXPECT_EQ(Columna(f.vSMatzRespCorrec, 1), "1,2,3,4");
@@ -50,7 +57,8 @@ TEST_F(Matriz, LoadsLettersAxesAndSkillsOfTheForm) {
     EXPECT_EQ(Columna(f.vSEjeTemario, 2), "Otro,Edad Media,,");
     EXPECT_EQ(Columna(f.vSPregObjet, 2), "Recordar,Analizar,,");
     EXPECT_EQ(f.CmbEjetema->count(), 1) << "only the axes of the test's type";
-    EXPECT_EQ(f.CboDescripcion->itemText(0).section('@', 1), "Relacionar causas");
+    EXPECT_EQ(f.CboDescripcion->itemText(0), "Analizar");
+    EXPECT_EQ(Clave_Item(Item_Lista(*f.CboDescripcion, 0)), "Relacionar causas");
     EXPECT_EQ(f.CmbPregNum->count(), 4);
 }
 
@@ -58,10 +66,14 @@ TEST_F(Matriz, AFormWithoutKeyIsToldAndSavesNothing) {
     Ejecuta("delete from Resp_preguntas_pautas");
     guion->Espera("Matriz");
     FrmMatrizRespCorrec f;
-    EXPECT_EQ(guion->cajas.back().texto, "La matriz se ha cargado sin respuesta,\rfavor elimine la pauta y escanee nuevamente");
+    EXPECT_EQ(
+        guion->cajas.back().texto,
+        "La matriz se ha cargado sin respuesta,\rfavor elimine la pauta y escanee nuevamente");
     guion->Espera("Ejes Tematicos");
     f.XPButActPond_Click();
-    EXPECT_EQ(Valor("select count(*) from NEW_EJE_TEMATICO").toInt() + Valor("select count(*) from Resp_preguntas_pautas").toInt(), 0);
+    EXPECT_EQ(Valor("select count(*) from NEW_EJE_TEMATICO").toInt() +
+                  Valor("select count(*) from Resp_preguntas_pautas").toInt(),
+              0);
 }
 
 TEST_F(Matriz, AssigningOneQuestionOrManyAtOnce) {
@@ -106,14 +118,18 @@ TEST_F(Matriz, SavingRewritesAxesAndKeyOfTheForm) {
     guion->Espera("Ejes Tematicos");
     f.XPButActPond_Click();  // no flag set: blank cells pass
     EXPECT_EQ(guion->cajas.back().texto, "Los cambios han sido grabado");
-    EXPECT_EQ(Valor("select group_concat(correlativo || ':' || numero_pregunta || ':' || eje_tematico || ':' || eje_objetivo, ';') "
+    EXPECT_EQ(Valor("select group_concat(correlativo || ':' || numero_pregunta || ':' || "
+                    "eje_tematico || ':' || eje_objetivo, ';') "
                     "from (select * from NEW_EJE_TEMATICO where forma = 1 order by correlativo)")
                   .toString(),
               "31:1:Edad Media:;32:2:ELIMINADA:ELIMINADA;33:3:ELIMINADA:ELIMINADA;34:4::");
-    EXPECT_EQ(Valor("select count(*) from NEW_EJE_TEMATICO where forma = 2").toInt(), 1) << "other forms stay";
+    EXPECT_EQ(Valor("select count(*) from NEW_EJE_TEMATICO where forma = 2").toInt(), 1)
+        << "other forms stay";
     // "O" is not translated: the first row takes the 0 nothing has set yet.
-    EXPECT_EQ(Valor("select group_concat(alternativa, '') from (select alternativa from Resp_preguntas_pautas "
-                    "order by pregunta)").toString(),
+    EXPECT_EQ(Valor("select group_concat(alternativa, '') from (select alternativa from "
+                    "Resp_preguntas_pautas "
+                    "order by pregunta)")
+                  .toString(),
               "0995");
     EXPECT_EQ(f.vSMatzRespCorrec.MaxRows(), 0);
 }
@@ -123,4 +139,22 @@ TEST_F(Matriz, TheFirstRowOfAnEmptyTableIsNumberOne) {
     guion->Espera("Ejes Tematicos");
     f.XPButActPond_Click();
     EXPECT_EQ(Valor("select min(correlativo) from NEW_EJE_TEMATICO").toInt(), 1);
+}
+
+TEST_F(Matriz, AnOCellDoubleClickedAndLeftKeepsItsLetter) {
+    FrmMatrizRespCorrec f;
+    Mostrada mostrada(f);
+    QTableView& vista = *f.findChild<QTableView*>("vSMatzRespCorrec");
+    Doble_Pulsa_Celda(vista, 1, 2);
+    ASSERT_NE(Lista_Abierta(vista), nullptr);
+    Pulsa_Celda(vista, 2, 1);
+    EXPECT_EQ(Columna(f.vSMatzRespCorrec, 2), "O,B,X,X");
+    guion->Espera("Ejes Tematicos");
+    f.XPButActPond_Click();
+    // The "O" takes the code of the row before, none in the first row.
+    EXPECT_EQ(Valor("select group_concat(alternativa, '') from (select alternativa from "
+                    "Resp_preguntas_pautas "
+                    "order by pregunta)")
+                  .toString(),
+              "0299");
 }

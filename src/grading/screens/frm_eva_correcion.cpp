@@ -13,6 +13,7 @@
 #include "platform/dialogos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
+#include "platform/screens/lista_clave.h"
 
 namespace {
 
@@ -122,8 +123,7 @@ void FrmEvaCorrecion::Carga_Alumnos_desde_Grilla() {
     for (int f = 1; f <= SprEvaCorrec.MaxRows(); ++f) suma += Val(SprEvaCorrec.Celda(f, 4));
     if (suma == 0) return;
     for (int f = 1; f <= SprEvaCorrec.MaxRows(); ++f)
-        CboAlumnos->addItem(SprEvaCorrec.Celda(f, 3) + QString(200, QLatin1Char(' ')) +
-                            QLatin1Char('@') + SprEvaCorrec.Celda(f, 2));
+        Agrega_Item(CboAlumnos, SprEvaCorrec.Celda(f, 3), SprEvaCorrec.Celda(f, 2));
     CboAlumnos->setCurrentIndex(-1);
 }
 

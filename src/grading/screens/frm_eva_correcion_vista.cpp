@@ -19,6 +19,7 @@
 #include "platform/planilla.h"
 #include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
+#include "platform/screens/lista_clave.h"
 
 namespace {
 
@@ -109,7 +110,7 @@ QWidget* FrmEvaCorrecion::Panel_Escala() {
 
 // The student's figures, then each answer against the key of the student's form.
 void FrmEvaCorrecion::CboAlumnos_Click() {
-    const QString rut = CboAlumnos->currentText().section(QLatin1Char('@'), -1);
+    const QString rut = Item_Lista(*CboAlumnos).section(QLatin1Char('@'), -1);
     int f = 1;
     while (f < SprEvaCorrec.MaxRows() && SprEvaCorrec.Celda(f, 2) != rut) ++f;
     const QStringList datos = {QStringLiteral("RUT"),           rut,

@@ -86,7 +86,7 @@ void FrmModfRut::Carga_Num_Forma() {
 }
 
 void FrmModfRut::XPButModifica_Click() {
-    const QString nuevo = TxtRutModificado->text();
+    const QString nuevo = Rut_Mayuscula(TxtRutModificado->text());
     const QString viejo = LblRutaModif->text();
     if (!Fnc_Valida_Rut(nuevo)) {
         dialogos().MsgBox(QStringLiteral("El rut ingresado no es valida , verifique"), vbCritical,

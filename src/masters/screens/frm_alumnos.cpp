@@ -11,10 +11,10 @@
 #include "app/estado.h"
 #include "masters/carga_alumnos.h"
 #include "masters/carga_planilla.h"
-#include "masters/item_lista.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
+#include "platform/screens/lista_clave.h"
 #include "store/rut.h"
 
 namespace {
@@ -86,8 +86,7 @@ void FrmAlumnos::Carga_Cursos() {
     CboCurso->clear();
     for (Recordset rs = base().OpenRecordset(QStringLiteral("select * from CURSOS ")); !rs.Eof();
          rs.MoveNext())
-        CboCurso->addItem(
-            Item_Con_Clave(rs[0].toString(), rs[1].toString() + u' ' + rs[2].toString()));
+        Agrega_Item(CboCurso, rs[0].toString(), rs[1].toString() + u' ' + rs[2].toString());
     CboCurso->setCurrentIndex(-1);
 }
 
@@ -121,9 +120,9 @@ bool FrmAlumnos::Falta(QLineEdit* caja, const QString& texto) {
     return true;
 }
 
-void FrmAlumnos::Inserta_Alumno() {
+void FrmAlumnos::Inserta_Alumno(const QString& rut) {
     base().Execute(QStringLiteral(" insert into ALUMNOS values (?, ?, ?, 0)"),
-                   {TxtRut->text(), TxtNombre->text(), TxtCurso->text().trimmed()});
+                   {rut, TxtNombre->text(), TxtCurso->text().trimmed()});
 }
 
 void FrmAlumnos::Limpia_Campos() {
@@ -140,25 +139,25 @@ void FrmAlumnos::XPButAceptar_Click() {
                           kGeneral);
         return;
     }
-    TxtCurso->setText(Texto_Item(CboCurso->currentText()));
+    TxtCurso->setText(Texto_Item(Item_Lista(*CboCurso)));
     if (!Fnc_Valida_Rut(TxtRut->text())) {
         dialogos().MsgBox(QStringLiteral("Rut ingresado no es valido"), vbCritical,
                           QStringLiteral("Aceptar"));
         TxtRut->setFocus();
         return;
     }
-    const QString rut = TxtRut->text();
+    const QString rut = Rut_Mayuscula(TxtRut->text());
     if (base()
             .OpenRecordset(QStringLiteral(" select rut from ALUMNOS where rut = ?"), {rut})
             .Eof()) {
-        Inserta_Alumno();
+        Inserta_Alumno(rut);
         dialogos().MsgBox(QStringLiteral("El Alumno se ha creado con éxito en la base de datos"),
                           vbInformation, windowTitle());
     } else if (dialogos().MsgBox(
                    QStringLiteral("El alumno existe en la base de datos, desea reemplazarlo"),
                    vbOKCancel + vbQuestion, windowTitle()) == vbOK) {
         base().Execute(QStringLiteral(" delete from ALUMNOS  where rut = ?"), {rut});
-        Inserta_Alumno();
+        Inserta_Alumno(rut);
         dialogos().MsgBox(QStringLiteral("El alumno ") + rut +
                               QStringLiteral(" se ha creado con éxito en la base de datos"),
                           vbInformation, windowTitle());
@@ -234,8 +233,7 @@ void FrmAlumnos::Carga_Masiva_Por_Archivo(const QString& ruta) {
     if (!carga.completa) return;
     CboCurso->clear();
     for (int i = 0; i < carga.cursos.size(); ++i)
-        CboCurso->addItem(
-            Item_Con_Clave(carga.cursos[i], QStringLiteral("0 ") + QString::number(i + 1)));
+        Agrega_Item(CboCurso, carga.cursos[i], QStringLiteral("0 ") + QString::number(i + 1));
     CboCurso->setCurrentIndex(-1);
     dialogos().MsgBox(QStringLiteral("Se han insertado ") + QString::number(carga.fila - 1) +
                           QStringLiteral(" alumnos"),

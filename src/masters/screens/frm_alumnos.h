@@ -40,7 +40,7 @@ class FrmAlumnos : public QWidget {
     void Carga_Cursos();
     void Agrega_Alumno(const QString& rut, const QString& nombre, const QString& curso);
     bool Falta(QLineEdit* caja, const QString& texto);
-    void Inserta_Alumno();
+    void Inserta_Alumno(const QString& rut);
     void Limpia_Campos();
     QTableView* vista_;
 };

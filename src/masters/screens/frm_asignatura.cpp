@@ -7,10 +7,10 @@
 
 #include "app/estado.h"
 #include "masters/carga_planilla.h"
-#include "masters/item_lista.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
+#include "platform/screens/lista_clave.h"
 #include "store/contadores.h"
 
 namespace {
@@ -52,15 +52,15 @@ void FrmAsignatura::Carga_Asignaturas() {
     LstAsiganturas->clear();
     for (Recordset rs = base().OpenRecordset(QStringLiteral("select * from Asignaturas "));
          !rs.Eof(); rs.MoveNext())
-        LstAsiganturas->addItem(Item_Con_Clave(rs[1].toString(), rs[0].toString()));
+        Agrega_Item(LstAsiganturas, rs[1].toString(), rs[0].toString());
 }
 
 void FrmAsignatura::LstAsiganturas_Click(int fila) {
-    TxtNombre->setText(Texto_Item(LstAsiganturas->item(fila)->text()));
+    TxtNombre->setText(Texto_Item(Item_Lista(*LstAsiganturas->item(fila))));
 }
 
 void FrmAsignatura::LstAsiganturas_DblClick(int fila) {
-    TxtNombre->setText(LstAsiganturas->item(fila)->text());
+    TxtNombre->setText(Item_Lista(*LstAsiganturas->item(fila)));
 }
 
 // The box can't refuse: its only button is OK.
@@ -85,11 +85,11 @@ void FrmAsignatura::XPButton1_Click() {
     const QListWidgetItem* item = LstAsiganturas->currentItem();
     if (!item) return;
     if (dialogos().MsgBox(
-            QStringLiteral("Desea Eliminar la Asignatura  ") + Texto_Item(item->text()),
+            QStringLiteral("Desea Eliminar la Asignatura  ") + Texto_Item(Item_Lista(*item)),
             vbOKCancel + vbQuestion, QStringLiteral("mantenedor de Asignaturas")) != vbOK)
         return;
     base().Execute(QStringLiteral(" delete from Asignaturas  where idasignatura = ?"),
-                   {Clave_Item(item->text())});
+                   {Clave_Item(Item_Lista(*item))});
     Carga_Asignaturas();
 }
 

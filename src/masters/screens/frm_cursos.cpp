@@ -7,10 +7,10 @@
 #include <QListWidget>
 
 #include "app/estado.h"
-#include "masters/item_lista.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
+#include "platform/screens/lista_clave.h"
 #include "store/contadores.h"
 
 namespace {
@@ -61,19 +61,19 @@ void FrmCursos::Carga_Curso() {
     for (Recordset rs =
              base().OpenRecordset(QStringLiteral("select * from CURSOS ORDER BY IDNIVEL"));
          !rs.Eof(); rs.MoveNext())
-        LstCursos->addItem(Item_Con_Clave(rs[0].toString(), rs[2].toString()));
+        Agrega_Item(LstCursos, rs[0].toString(), rs[2].toString());
     CboNivel->clear();
     for (Recordset rs =
              base().OpenRecordset(QStringLiteral("select idniveles, nivel from Niveles "));
          !rs.Eof(); rs.MoveNext())
-        CboNivel->addItem(Item_Con_Clave(rs[1].toString(), rs[0].toString()));
+        Agrega_Item(CboNivel, rs[1].toString(), rs[0].toString());
     CboNivel->setCurrentIndex(-1);
 }
 
 // The name box gets the first 15 characters of the item, spaces included.
 void FrmCursos::LstCursos_Click(int fila) {
     if (fila < 0) return;
-    const QString item = LstCursos->item(fila)->text();
+    const QString item = Item_Lista(*LstCursos->item(fila));
     TxtCurso->setText(item.left(15));
     TxtNivel->setText(Clave_Item(item));
 }
@@ -100,7 +100,7 @@ void FrmCursos::XPButAceptar_Click() {
             .OpenRecordset(QStringLiteral(" select curso from cursos where curso = ?"), {curso})
             .Eof()) {
         base().Execute(QStringLiteral(" insert into cursos values (?, ?, ?)"),
-                       {curso, Clave_Item(CboNivel->currentText()), numero});
+                       {curso, Clave_Item(Item_Lista(*CboNivel)), numero});
     } else if (dialogos().MsgBox(
                    QStringLiteral("El curso existe en la base de datos, desea reemplazarlo"),
                    vbOKCancel + vbQuestion, kTitulo) == vbOK) {
@@ -120,10 +120,11 @@ void FrmCursos::XPButAceptar_Click() {
 void FrmCursos::XPButton1_Click() {
     const QListWidgetItem* item = LstCursos->currentItem();
     if (!item) return;
-    if (dialogos().MsgBox(QStringLiteral("Desea Eliminar el Curso ") + Texto_Item(item->text()),
-                          vbOKCancel + vbQuestion, kTitulo) != vbOK)
+    if (dialogos().MsgBox(
+            QStringLiteral("Desea Eliminar el Curso ") + Texto_Item(Item_Lista(*item)),
+            vbOKCancel + vbQuestion, kTitulo) != vbOK)
         return;
     base().Execute(QStringLiteral(" delete from CURSOS  where idcurso = ?"),
-                   {Clave_Item(item->text())});
+                   {Clave_Item(Item_Lista(*item))});
     Carga_Curso();
 }

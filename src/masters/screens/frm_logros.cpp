@@ -4,12 +4,13 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <vector>
 
 #include "app/estado.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 
 namespace {
 
@@ -111,7 +112,7 @@ QLineEdit* Frm_Logros::Caja_Logro(const QString& nombre) const {
 }
 
 double Frm_Logros::Valor(const QString& nombre) const {
-    return Val(Caja_Logro(nombre)->text());
+    return Numero_Digitado(Caja_Logro(nombre)->text());
 }
 
 void Frm_Logros::Form_Load() {
@@ -154,12 +155,15 @@ bool Frm_Logros::Fnc_Validar_Rangos() {
 
 void Frm_Logros::XPButAceptar_Click() {
     if (!Fnc_Validar_Rangos()) return;
+    // Every box is read before the delete: a box that holds no number stops the save whole.
+    std::vector<QVariantList> filas;
+    for (const Nivel& n : kNiveles)
+        filas.push_back({QString::fromUtf8(n.concepto), Valor(Ini(n)), Valor(Fin(n))});
     BaseDatos& base = *estado().BaseDatos;
     base.Execute(
         QStringLiteral(" delete from NivelesCalificacion  where concepto "
                        "in('D','ND','PD','NB','NMB','NMA','NA')"));
-    for (const Nivel& n : kNiveles)
-        base.Execute(QStringLiteral(" insert into NivelesCalificacion values(?, ?, ?)"),
-                     {QString::fromUtf8(n.concepto), Valor(Ini(n)), Valor(Fin(n))});
+    for (const QVariantList& fila : filas)
+        base.Execute(QStringLiteral(" insert into NivelesCalificacion values(?, ?, ?)"), fila);
     close();
 }

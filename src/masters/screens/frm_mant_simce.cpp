@@ -5,10 +5,10 @@
 #include <QLineEdit>
 
 #include "app/estado.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 
 FrmMantSimce::FrmMantSimce(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FrmMantSimce"));
@@ -39,7 +39,8 @@ void FrmMantSimce::Verifica_Vacio(QLineEdit* caja) {
 }
 
 void FrmMantSimce::XPButAceptar_Click() {
-    const double minimo = Val(TxtMinimo->text()), maximo = Val(TxtMaximo->text());
+    const double minimo = Numero_Digitado(TxtMinimo->text());
+    const double maximo = Numero_Digitado(TxtMaximo->text());
     const QString titulo = QStringLiteral("Mantenedor SIMCE");
     if (minimo == 0) {
         dialogos().MsgBox(QStringLiteral("Debe ingresar un puntaje minimo para el SIMCE"),

@@ -8,10 +8,10 @@
 #include <QLabel>
 
 #include "app/estado.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 #include "store/nota_minima.h"
 
 namespace {
@@ -104,16 +104,16 @@ void FrmNivelEva::XPButAceptar_Click() {
                           vbExclamation, titulo);
         return;
     }
+    const double nota = Numero_Digitado(texto);
     BaseDatos& base = *estado().BaseDatos;
     if (!base.OpenRecordset(
                  QStringLiteral("select desde from NivelesCalificacion where concepto = 'NM' "))
              .Eof())
         base.Execute(
             QStringLiteral(" update NivelesCalificacion set desde = ? where concepto = 'NM' "),
-            {texto});
+            {nota});
     else
-        base.Execute(QStringLiteral(" insert into NivelesCalificacion values('NM', ?, 0)"),
-                     {texto});
+        base.Execute(QStringLiteral(" insert into NivelesCalificacion values('NM', ?, 0)"), {nota});
     dialogos().MsgBox(QStringLiteral("Los datos han sido grabado"), vbInformation,
                       QStringLiteral("Niveles Calificación"));
     close();

@@ -2,7 +2,6 @@
 #include "platform/screens/controles.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -98,12 +97,6 @@ QTableView* Vista_Grilla(QWidget* padre, const QString& nombre, Grilla& grilla,
         Ejecutar_Comando([&] { al_pulsar(i.row() + 1); });
     });
     return vista;
-}
-
-int Busca_Item(const QComboBox& lista, const QString& texto) {
-    for (int i = 0; i < lista.count(); ++i)
-        if (lista.itemText(i).contains(texto)) return i;
-    return -1;
 }
 
 QVBoxLayout* Columna_Botones(QWidget* padre, const std::vector<DefBoton>& botones) {

@@ -10,7 +10,6 @@
 #include <vector>
 
 class Grilla;
-class QComboBox;
 
 // A button whose click runs `comando` as one command (Ejecutar_Comando).
 QPushButton* Boton(QWidget* padre, const QString& nombre, const QString& texto,
@@ -41,6 +40,3 @@ void Al_Salir(QLineEdit* caja, std::function<void()> accion);
 // A view of the grid; a click on a data row (from 1) calls `al_pulsar`.
 QTableView* Vista_Grilla(QWidget* padre, const QString& nombre, Grilla& grilla,
                          std::function<void(int)> al_pulsar);
-
-// The index of the first item of a list that holds `texto`; -1 when none does.
-int Busca_Item(const QComboBox& lista, const QString& texto);

@@ -11,11 +11,11 @@
 
 #include "app/estado.h"
 #include "grading/screens/frm_correc_pru.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/screens/celda_lista.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/grilla_modelo.h"
 #include "platform/screens/navegacion.h"
 
@@ -71,6 +71,7 @@ FrmIngManual::FrmIngManual(QWidget* padre) : QWidget(padre) {
     SprAlterPreg.FijaCelda(0, 1, QStringLiteral("Pregunta"));
     SprAlterPreg.FijaCelda(0, 2, QStringLiteral("Alternativa"));
     auto* vista = new QTableView(this);
+    vista->setObjectName(QStringLiteral("SprAlterPreg"));
     auto* modelo = new GrillaModelo(SprAlterPreg, vista);
     modelo->Editable(2);
     vista->setModel(modelo);

@@ -14,7 +14,7 @@ class QTableView;
 
 class FrmMatrizRespCorrec : public QWidget {
     Q_OBJECT
-public:
+  public:
     explicit FrmMatrizRespCorrec(QWidget* padre = nullptr);
 
     Grilla vSMatzRespCorrec{0, 2};
@@ -46,9 +46,9 @@ public:
     void CmbAsigtura_Click();
     void XPButActPond_Click();
 
-private:
+  private:
     void Construye();
-    QTableView* Vista(Grilla& g, int editable);
+    QTableView* Vista(Grilla& g, const QString& nombre, int editable);
     void Vacia_Grillas();
     bool Valida(const Grilla& g, const QString& titulo, const QString& texto);
     void Graba_Ejes_Objetivos(int forma);

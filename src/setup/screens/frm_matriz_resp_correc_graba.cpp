@@ -2,10 +2,10 @@
 #include <QComboBox>
 
 #include "app/estado.h"
-#include "masters/item_lista.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/lista_clave.h"
 #include "setup/screens/frm_matriz_resp_correc.h"
 #include "store/contadores.h"
 
@@ -40,7 +40,7 @@ void FrmMatrizRespCorrec::XPButton1_Click() {
         return;
     }
     Asigna(vSPregObjet, {CmbPregObjetivo->currentIndex() + 1},
-           Texto_Item(CboDescripcion->currentText()));
+           Texto_Item(Item_Lista(*CboDescripcion)));
     Cambio_Objetivo = true;
 }
 
@@ -60,7 +60,7 @@ void FrmMatrizRespCorrec::vSPregObjet_Seleccion(const QList<int>& filas) {
                           kTituloMatriz);
         return;
     }
-    Asigna(vSPregObjet, filas, Texto_Item(CboDescripcion->currentText()));
+    Asigna(vSPregObjet, filas, Texto_Item(Item_Lista(*CboDescripcion)));
     Cambio_Objetivo = true;
 }
 

@@ -11,11 +11,11 @@
 #include <QVBoxLayout>
 
 #include "app/estado.h"
-#include "masters/item_lista.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
+#include "platform/screens/lista_clave.h"
 #include "platform/screens/navegacion.h"
 #include "setup/screens/frm_ing_manual.h"
 #include "store/contadores.h"
@@ -23,7 +23,9 @@
 
 namespace {
 
-BaseDatos& Base() { return *estado().BaseDatos; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
 
 const char* const kAsignaturasSimce[] = {"Lenguaje y Comunicación",
                                          "Educación Matemática",
@@ -40,12 +42,14 @@ void Llena(QComboBox* lista, int desde, int hasta) {
 
 void Llena_Consulta(QComboBox* lista, const QString& sql) {
     lista->clear();
-    for (Recordset rs = Base().OpenRecordset(sql); !rs.Eof(); rs.MoveNext()) lista->addItem(rs[0].toString());
+    for (Recordset rs = Base().OpenRecordset(sql); !rs.Eof(); rs.MoveNext())
+        lista->addItem(rs[0].toString());
     lista->setCurrentIndex(-1);
 }
 
 bool Tabla_Vacia(const QString& tabla) {
-    return Base().OpenRecordset(QStringLiteral("select count(*) from %1").arg(tabla))[0].toInt() == 0;
+    return Base().OpenRecordset(QStringLiteral("select count(*) from %1").arg(tabla))[0].toInt() ==
+           0;
 }
 
 // A list reduced to the copied test's value, so that it can't be changed.
@@ -59,8 +63,8 @@ void Fija(QComboBox* lista, const QString& valor) {
 }  // namespace
 
 GeneradorPrueba::GeneradorPrueba(TipoGenerador tipo, QWidget* padre) : QWidget(padre), tipo_(tipo) {
-    static const char* const kTitulos[] = {"Generación de Prueba General", "Generador de pruebas  PSU",
-                                           "Generador de pruebas SIMCE"};
+    static const char* const kTitulos[] = {
+        "Generación de Prueba General", "Generador de pruebas  PSU", "Generador de pruebas SIMCE"};
     static const char* const kNombres[] = {"FrmGenePru", "FrmGenePsuPru", "FrmGeneSimcePru"};
     setWindowTitle(QString::fromUtf8(kTitulos[int(tipo)]));
     setObjectName(QString::fromUtf8(kNombres[int(tipo)]));
@@ -77,7 +81,8 @@ void GeneradorPrueba::Construye() {
     TxtNum = Caja(this, QStringLiteral("TxtNum"));
     TxtNum->setReadOnly(true);
     TxtNombre = Caja(this, QStringLiteral("TxtNombre"));
-    TxtTipPru = Caja(this, tipo_ == TipoGenerador::PSU ? QStringLiteral("TxtTipPruPSU") : QStringLiteral("TxtTipPru"));
+    TxtTipPru = Caja(this, tipo_ == TipoGenerador::PSU ? QStringLiteral("TxtTipPruPSU")
+                                                       : QStringLiteral("TxtTipPru"));
     TxtTipPru->setReadOnly(true);
     TxtTipPru->setText(tipo_ == TipoGenerador::General ? QStringLiteral("GENERAL")
                        : tipo_ == TipoGenerador::PSU   ? QStringLiteral("PSU")
@@ -96,14 +101,18 @@ void GeneradorPrueba::Construye() {
     CmbNivEva = lista("CmbNivEva");
     CmbNiveles = lista("CmbNiveles");
     FraForingmatriz = new QGroupBox(this);
-    OptIngpautpantalla = new QRadioButton(QStringLiteral("Ingreso de pauta por pantalla"), FraForingmatriz);
-    OptIngrPautOptica = new QRadioButton(QStringLiteral("Ingreso de pauta óptica"), FraForingmatriz);
+    OptIngpautpantalla =
+        new QRadioButton(QStringLiteral("Ingreso de pauta por pantalla"), FraForingmatriz);
+    OptIngrPautOptica =
+        new QRadioButton(QStringLiteral("Ingreso de pauta óptica"), FraForingmatriz);
     OptIngpautpantalla->setChecked(true);
     auto* opciones = new QVBoxLayout(FraForingmatriz);
     opciones->addWidget(OptIngpautpantalla);
     opciones->addWidget(OptIngrPautOptica);
-    XPButAceptar = Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"), [this] { XPButAceptar_Click(); });
-    XPButCancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"), [this] { close(); });
+    XPButAceptar = Boton(this, QStringLiteral("XPButAceptar"), QStringLiteral("Aceptar"),
+                         [this] { XPButAceptar_Click(); });
+    XPButCancelar = Boton(this, QStringLiteral("XPButCancelar"), QStringLiteral("Cancelar"),
+                          [this] { close(); });
     auto* capa = new QFormLayout(this);
     capa->addRow(QStringLiteral("Número:"), TxtNum);
     capa->addRow(QStringLiteral("Nombre:"), TxtNombre);
@@ -121,8 +130,10 @@ void GeneradorPrueba::Construye() {
     capa->addRow(FraForingmatriz);
     capa->addRow(XPButAceptar, XPButCancelar);
     CmbNiveles->setVisible(tipo_ == TipoGenerador::SIMCE);
-    connect(CmbAsig, &QComboBox::activated, this, [this] { Ejecutar_Comando([this] { CmbAsig_Click(); }); });
-    connect(CmbNiveles, &QComboBox::activated, this, [this] { Ejecutar_Comando([this] { CmbNiveles_Click(); }); });
+    connect(CmbAsig, &QComboBox::activated, this,
+            [this] { Ejecutar_Comando([this] { CmbAsig_Click(); }); });
+    connect(CmbNiveles, &QComboBox::activated, this,
+            [this] { Ejecutar_Comando([this] { CmbNiveles_Click(); }); });
     resize(520, 560);
 }
 
@@ -144,12 +155,14 @@ bool GeneradorPrueba::Tablas_Con_Datos() {
     const QString titulo = QStringLiteral("Genera Pruebas");
     const std::pair<const char*, const char*> tablas[] = {
         {"profesores", "La tabla de Profesores esta vacia, ingrese los datos he intente de nuevo"},
-        {"Asignaturas", "La tabla de Asignaturas esta vacia, ingrese los datos he intente de nuevo"},
+        {"Asignaturas",
+         "La tabla de Asignaturas esta vacia, ingrese los datos he intente de nuevo"},
         {"CURSOS", "La tabla de Cursos esta vacia, cargue los Alumnos he intente de nuevo"},
     };
     for (const auto& [tabla, aviso] : tablas) {
         // The SIMCE subjects are a fixed list: its screen needs no subjects table.
-        if (tipo_ == TipoGenerador::SIMCE && QLatin1String(tabla) == QLatin1String("Asignaturas")) continue;
+        if (tipo_ == TipoGenerador::SIMCE && QLatin1String(tabla) == QLatin1String("Asignaturas"))
+            continue;
         if (Tabla_Vacia(QString::fromUtf8(tabla))) {
             dialogos().MsgBox(QString::fromUtf8(aviso), vbCritical, titulo);
             return false;
@@ -177,23 +190,24 @@ void GeneradorPrueba::Llena_Listas() {
         case TipoGenerador::PSU: {
             Llena(CmbNunAlterxpreg, 5, 5);
             CmbAsig->clear();
-            Recordset rs = Base().OpenRecordset(
-                QStringLiteral(" select id_psu, nombre_psu, numero_preguntas from Puntajes_PSU_NEW"));
-            for (; !rs.Eof(); rs.MoveNext()) CmbAsig->addItem(Item_Con_Clave(rs[1].toString(), rs[2].toString()));
+            Recordset rs = Base().OpenRecordset(QStringLiteral(
+                " select id_psu, nombre_psu, numero_preguntas from Puntajes_PSU_NEW"));
+            for (; !rs.Eof(); rs.MoveNext())
+                Agrega_Item(CmbAsig, rs[1].toString(), rs[2].toString());
             CmbAsig->setCurrentIndex(-1);
             if (CmbAsig->count() == 0) {
-                dialogos().MsgBox(
-                    QStringLiteral("No existen priebas PSU creadas, favor Ingreselas en Base de Datos \\ Mantenedor PSU"),
-                    vbOKOnly, QStringLiteral("Ingreso Pruebas PSU"));
+                dialogos().MsgBox(QStringLiteral("No existen priebas PSU creadas, favor Ingreselas "
+                                                 "en Base de Datos \\ Mantenedor PSU"),
+                                  vbOKOnly, QStringLiteral("Ingreso Pruebas PSU"));
                 XPButAceptar->setEnabled(false);
             }
             break;
         }
         case TipoGenerador::SIMCE:
             Llena(CmbNunAlterxpreg, 3, 5);
-            CmbNiveles->addItem(Item_Con_Clave(QStringLiteral("Cuarto Básico"), QStringLiteral("4")));
-            CmbNiveles->addItem(Item_Con_Clave(QStringLiteral("Octavo Básico"), QStringLiteral("8")));
-            CmbNiveles->addItem(Item_Con_Clave(QStringLiteral("II Medio"), QStringLiteral("10")));
+            Agrega_Item(CmbNiveles, QStringLiteral("Cuarto Básico"), QStringLiteral("4"));
+            Agrega_Item(CmbNiveles, QStringLiteral("Octavo Básico"), QStringLiteral("8"));
+            Agrega_Item(CmbNiveles, QStringLiteral("II Medio"), QStringLiteral("10"));
             CmbNiveles_Click();
             break;
     }
@@ -202,7 +216,7 @@ void GeneradorPrueba::Llena_Listas() {
 
 void GeneradorPrueba::CmbAsig_Click() {
     if (tipo_ != TipoGenerador::PSU) return;
-    TxtNumeroPreguntas->setText(Clave_Item(CmbAsig->currentText()));
+    TxtNumeroPreguntas->setText(Clave_Item(Item_Lista(*CmbAsig)));
     CmbPreSelMul->setCurrentIndex(CmbPreSelMul->findText(TxtNumeroPreguntas->text()));
 }
 
@@ -218,8 +232,8 @@ void GeneradorPrueba::Carga_Copia() {
     TxtNombre->clear();
     Llena_Consulta(CmbProfe, QStringLiteral("select NombreProfesor from profesores"));
     Llena_Consulta(CmbCurso, QStringLiteral(" select curso from cursos "));
-    Recordset origen =
-        Base().OpenRecordset(QStringLiteral("select * from prueba_rj where idprueba = ?"), {e.Id_Prueba_Origen});
+    Recordset origen = Base().OpenRecordset(
+        QStringLiteral("select * from prueba_rj where idprueba = ?"), {e.Id_Prueba_Origen});
     Fija(CmbPreSelMul, origen[QStringLiteral("Pregunta_Seleccion")].toString());
     Fija(CmbNumForma, origen[QStringLiteral("Numero_Forma")].toString());
     Fija(CmbNunAlterxpreg, origen[QStringLiteral("Numero_Alternativas")].toString());

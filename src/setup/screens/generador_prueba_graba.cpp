@@ -9,6 +9,7 @@
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/lista_clave.h"
 #include "platform/screens/navegacion.h"
 #include "setup/screens/frm_ing_manual.h"
 #include "setup/screens/generador_prueba.h"
@@ -16,7 +17,9 @@
 
 namespace {
 
-BaseDatos& Base() { return *estado().BaseDatos; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
 
 void Refresca_Lista() {
     if (auto* lista = qobject_cast<frmCorrecPru*>(Pantalla_Abierta(QStringLiteral("frmCorrecPru"))))
@@ -29,7 +32,8 @@ bool GeneradorPrueba::Falta_Dato() {
     std::vector<QWidget*> orden;
     switch (tipo_) {
         case TipoGenerador::General:
-            orden = {CmbProfe, CmbAsig, CmbCurso, TxtNombre, CmbPreSelMul, CmbNumForma, CmbNunAlterxpreg};
+            orden = {CmbProfe,     CmbAsig,     CmbCurso,        TxtNombre,
+                     CmbPreSelMul, CmbNumForma, CmbNunAlterxpreg};
             break;
         case TipoGenerador::PSU:
             orden = {CmbProfe, CmbAsig, CmbCurso, TxtNombre, CmbNunAlterxpreg};
@@ -44,7 +48,8 @@ bool GeneradorPrueba::Falta_Dato() {
         const auto* caja = qobject_cast<QLineEdit*>(campo);
         const QString texto = caja ? caja->text() : static_cast<QComboBox*>(campo)->currentText();
         if (texto.isEmpty()) {
-            dialogos().MsgBox(QStringLiteral("Complete los item en blanco"), vbInformation, windowTitle());
+            dialogos().MsgBox(QStringLiteral("Complete los item en blanco"), vbInformation,
+                              windowTitle());
             campo->setFocus();
             return true;
         }
@@ -61,15 +66,19 @@ void GeneradorPrueba::Graba_Fila() {
     tabla.Fija(QStringLiteral("TipoPrueba"), TxtTipPru->text());
     tabla.Fija(QStringLiteral("NombreProfesor"), CmbProfe->currentText());
     // A PSU subject is the defined test's name, without its number of questions.
-    tabla.Fija(QStringLiteral("Asignatura"), CmbAsig->currentText().section(QLatin1Char('@'), 0, 0).trimmed());
+    tabla.Fija(QStringLiteral("Asignatura"),
+               Item_Lista(*CmbAsig).section(QLatin1Char('@'), 0, 0).trimmed());
     tabla.Fija(QStringLiteral("curso"), CmbCurso->currentText());
     tabla.Fija(QStringLiteral("Numero_Forma"), general ? Val(CmbNumForma->currentText()) : 1);
     tabla.Fija(QStringLiteral("Fecha"), txtFecha->text());
     tabla.Fija(QStringLiteral("Pregunta_Seleccion"), Val(CmbPreSelMul->currentText()));
-    tabla.Fija(QStringLiteral("puntaje_base"), general ? 0.0 : Val(CmbPuntBase->currentText()));
+    // The general screen never stores the base score; the SIMCE screen not on a copy either.
+    const bool sin_base = general || (tipo_ == TipoGenerador::SIMCE && estado().Copia_Activa);
+    tabla.Fija(QStringLiteral("puntaje_base"), sin_base ? 0.0 : Val(CmbPuntBase->currentText()));
     tabla.Fija(QStringLiteral("Numero_Alternativas"), Val(CmbNunAlterxpreg->currentText()));
     if (!general) tabla.Fija(QStringLiteral("formas"), 1);
-    tabla.Fija(QStringLiteral("ingreso_pauta"), estado().Copia_Activa ? QStringLiteral("S") : QStringLiteral("N"));
+    tabla.Fija(QStringLiteral("ingreso_pauta"),
+               estado().Copia_Activa ? QStringLiteral("S") : QStringLiteral("N"));
     tabla.Update();
 }
 
@@ -86,7 +95,8 @@ void GeneradorPrueba::XPButAceptar_Click() {
 
 void GeneradorPrueba::Tras_Grabar_Nueva() {
     Estado& e = estado();
-    e.Numero_Formas_Actual = tipo_ == TipoGenerador::General ? CInt(Val(CmbNumForma->currentText())) : 1;
+    e.Numero_Formas_Actual =
+        tipo_ == TipoGenerador::General ? CInt(Val(CmbNumForma->currentText())) : 1;
     e.Preguntas_Actual = CInt(Val(CmbPreSelMul->currentText()));
     // Both take the alternatives; the maximum points come when the test is chosen on the list.
     e.Ptje_Max_Actual = e.Alternativas_Actual = CInt(Val(CmbNunAlterxpreg->currentText()));
