@@ -1,6 +1,7 @@
 // zorta: the desktop application without arguments, a headless sub-command with them.
 #include <QApplication>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include "app/inicio.h"
@@ -32,6 +33,13 @@ int Aplicacion(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc < 2) return Aplicacion(argc, argv);
+    // Reports draw their charts, and letters need a graphical application; it needs no screen.
+    if (qstrcmp(argv[1], "informe") == 0) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        QGuiApplication app(argc, argv);
+        QCoreApplication::setApplicationName(QStringLiteral("Zorta"));
+        return Ejecuta_Cli(QCoreApplication::arguments().mid(1));
+    }
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Zorta"));
     return Ejecuta_Cli(QCoreApplication::arguments().mid(1));
