@@ -1,8 +1,8 @@
 // The course analysis: grade bands compared as texts and their shares.
 #include "analysis/analisis_curso.h"
 
-#include <QDate>
 
+#include "analysis/analisis_pregunta.h"
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
@@ -125,14 +125,6 @@ void TablasCurso::Llena_Grilla(const ConteoBandas& conteo) {
         SprResulprucargada.FijaCelda(r, 2, CStr(conteo.Cuenta(r)));
         SprResulprucargada.FijaCelda(r, 3, conteo.Porcentaje(r));
     }
-    const Estado& e = estado();
-    const QString lineas[] = {
-        QStringLiteral("Nombre Prueba : ") + e.Nombre_Prueba_Actual,
-        QStringLiteral("Profesor      : ") + e.Profesor_Actual,
-        QStringLiteral("Curso         : ") + e.Curso_Actual,
-        QStringLiteral("Tipo Prueba   : ") + e.Tipo_Prueba_Actual,
-        QStringLiteral("Asignatura    : ") + e.Asignatura_Actual,
-        QStringLiteral("Fecha         : ") + Fecha_Texto(QDate::currentDate()),
-    };
-    for (int r = 2; r <= 7; ++r) SprResulprucargada.FijaCelda(r, 5, lineas[r - 2]);
+    // The test's identity in column 5, the grid's last.
+    Agrega_Datos_Prueba(SprResulprucargada);
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 
+#include "app/estado.h"
 #include "cli/corregir.h"
 #include "cli/demo.h"
 #include "cli/hoja.h"
@@ -62,4 +63,16 @@ int Ejecuta_Cli(const QStringList& args) {
         QTextStream(stderr) << "Error de ejecución: " << e.what() << "\n";
     }
     return 1;
+}
+
+bool Pide_Ayuda(const QStringList& args, const char* ayuda) {
+    if (!args.contains(QLatin1String("--help")) && !args.contains(QLatin1String("-h")))
+        return false;
+    QTextStream(stdout) << ayuda;
+    return true;
+}
+
+CierreAlmacen::~CierreAlmacen() {
+    estado().Consulta_Actual.reset();
+    estado().BaseDatos.reset();
 }

@@ -5,3 +5,14 @@
 
 // Runs `zorta SUBCOMANDO ...`; `args` starts at the sub-command. The exit status.
 int Ejecuta_Cli(const QStringList& args);
+
+// True, once `ayuda` is printed, when the arguments ask for help.
+bool Pide_Ayuda(const QStringList& args, const char* ayuda);
+
+// The store of a sub-command, closed when this goes, before the application object does.
+struct CierreAlmacen {
+    CierreAlmacen() = default;
+    CierreAlmacen(const CierreAlmacen&) = delete;
+    CierreAlmacen& operator=(const CierreAlmacen&) = delete;
+    ~CierreAlmacen();
+};

@@ -8,6 +8,7 @@
 
 #include "app/estado.h"
 #include "app/inicio.h"
+#include "cli/cli.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos_consola.h"
 #include "platform/numeros.h"
@@ -125,10 +126,7 @@ bool Elige_Prueba(const Argumentos& a) {
 int Cmd_Corregir(const QStringList& args) {
     static QTextStream salida(stdout);
     QTextStream err(stderr);
-    if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
-        salida << kAyuda;
-        return 0;
-    }
+    if (Pide_Ayuda(args, kAyuda)) return 0;
     Argumentos a;
     if (!Lee_Argumentos(args, a)) {
         err << "zorta corregir: opciones no válidas\n" << kAyuda;
@@ -136,11 +134,7 @@ int Cmd_Corregir(const QStringList& args) {
     }
     Instala_Dialogos(std::make_unique<DialogosCorregir>(salida));
     if (!MDIForm_Load()) return 1;
-    // The store closes before the application object goes.
-    const std::unique_ptr<Estado, void (*)(Estado*)> cierra(&estado(), [](Estado* e) {
-        e->Consulta_Actual.reset();
-        e->BaseDatos.reset();
-    });
+    const CierreAlmacen cierre;
     if (!Elige_Prueba(a)) {
         err << "zorta corregir: no existe la prueba " << a.prueba << "\n";
         return 1;

@@ -13,6 +13,7 @@
 #include "analysis/tablas_ejes.h"
 #include "app/estado.h"
 #include "app/inicio.h"
+#include "cli/cli.h"
 #include "grading/evaluacion_correccion.h"
 #include "grading/tablas_ensayo.h"
 #include "platform/base_datos.h"
@@ -126,6 +127,8 @@ bool Informe::Por_Formas(const QStringList& formas, const Prepara& prepara, cons
         prepara(a_.forma);
         return una(a_.salida);
     }
+    // Without a key the screen writes no file either.
+    if (formas.isEmpty()) return Falla(QStringLiteral("la prueba no tiene pauta"));
     if (formas.size() == 1) return una(a_.salida);
     bool bien = true;
     Exporta_Formas(
@@ -255,10 +258,7 @@ int Informe::Escribe() {
 int Cmd_Informe(const QStringList& args) {
     static QTextStream salida(stdout);
     QTextStream err(stderr);
-    if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
-        salida << kAyuda;
-        return 0;
-    }
+    if (Pide_Ayuda(args, kAyuda)) return 0;
     Argumentos a;
     if (!Lee_Argumentos(args, a)) {
         err << "zorta informe: opciones no válidas\n" << kAyuda;
@@ -266,11 +266,7 @@ int Cmd_Informe(const QStringList& args) {
     }
     Instala_Dialogos(std::make_unique<DialogosConsola>(salida));
     if (!MDIForm_Load()) return 1;
-    // The store closes before the application object goes.
-    const std::unique_ptr<Estado, void (*)(Estado*)> cierra(&estado(), [](Estado* e) {
-        e->Consulta_Actual.reset();
-        e->BaseDatos.reset();
-    });
+    const CierreAlmacen cierre;
     if (!Fija_Prueba_Actual(static_cast<int16_t>(a.prueba))) {
         err << "zorta informe: no existe la prueba " << a.prueba << "\n";
         return 2;

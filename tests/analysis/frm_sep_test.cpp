@@ -16,6 +16,8 @@
 #include "analysis/screens/frm_por_pregunta.h"
 #include "app/screens/mdi_main.h"
 #include "platform/planilla_lectura.h"
+#include "store/copias_prueba.h"
+#include "support/prueba_informes.h"
 
 namespace {
 
@@ -111,9 +113,11 @@ TEST_F(Sep, UnClicEnLasGrillasNoHaceNada) {
 TEST_F(Sep, Captura) {
     const QString carpeta_capturas = qEnvironmentVariable("ZORTA_CAPTURAS");
     if (carpeta_capturas.isEmpty()) GTEST_SKIP() << "ZORTA_CAPTURAS no indicado";
-    Una_Forma();
+    Crea_Prueba_Informes(5, QStringLiteral("3° Medio A"), 30);
+    ASSERT_TRUE(Fija_Prueba_Actual(5));
     estado().Tipo_Analisis = "EJE TEMATICO";
     FrmSEP f;
+    f.resize(1360, 760);
     f.show();
     QCoreApplication::processEvents();
     EXPECT_TRUE(f.grab().save(QDir(carpeta_capturas).filePath("frm_sep.png")));

@@ -58,8 +58,11 @@ void FrmHabiliObjet::Construye() {
     auto* superior = Vista_Grilla(this, QStringLiteral("SprSuperior"), SprSuperior, {});
     superior->verticalHeader()->setMinimumWidth(200);
     superior->horizontalHeader()->setDefaultSectionSize(86);
+    auto* curso = new QVBoxLayout;
+    curso->addWidget(superior, 1);
+    if (Es_Sep()) curso->addWidget(Vista_Niveles(), 1);
     auto* arriba = new QHBoxLayout;
-    arriba->addWidget(superior, 3);
+    arriba->addLayout(curso, 3);
     arriba->addWidget(new VistaGrafico(MSChart1, this), 2);
     vista_pantalla_ = Vista_Grilla(this, QStringLiteral("SprPantalla"), SprPantalla, {});
     vista_pantalla_->setHorizontalHeader(new CabeceraGrupos(vista_pantalla_));
@@ -87,6 +90,23 @@ void FrmHabiliObjet::Construye() {
     // The SEP screen has no button for the course's achievements.
     if (Es_Sep()) botones.erase(botones.begin() + 6);
     cuerpo->addLayout(Columna_Botones(this, botones));
+}
+
+// The SEP screen shows the course's four levels per axis, as its report titles them.
+QTableView* FrmHabiliObjet::Vista_Niveles() {
+    const QStringList cabezas = {"", "N°", "%", "N°", "%", "N°", "%", "N°", "%"};
+    for (int c = 1; c <= 9; ++c) SprSep.FijaCelda(0, c, cabezas[c - 1]);
+    SprSep.FijaCelda(
+        0, 1, Modo_Habilidades() ? QStringLiteral("HABILIDAD") : QStringLiteral("EJE TEMATICO"));
+    auto* vista = Vista_Grilla(this, QStringLiteral("SprSep"), SprSep, {});
+    QStringList grupos = {QString()};
+    for (const char* nivel : {"NIVEL BAJO", "NIVEL MEDIO BAJO", "NIVEL MEDIO ALTO", "NIVEL ALTO"})
+        grupos << QString::fromLatin1(nivel) << QString::fromLatin1(nivel);
+    vista->setHorizontalHeader(new CabeceraGrupos(vista, grupos));
+    vista->horizontalHeader()->setDefaultSectionSize(60);
+    vista->setColumnWidth(0, 200);
+    vista->verticalHeader()->hide();
+    return vista;
 }
 
 void FrmHabiliObjet::Form_Load() {

@@ -40,6 +40,7 @@ class FrmHabiliObjet : public QWidget, public TablasEjes {
 
   private:
     void Construye();
+    QTableView* Vista_Niveles();
     void Selecciona_Forma(int k);
     // The export protocol; with several forms (or none) every form is written as kind
     // `tipo_varias` of `varias`.
