@@ -3,7 +3,9 @@
 #include "analysis/analisis_ejes.h"
 
 #include <functional>
+#include <map>
 
+#include "analysis/analisis_pregunta.h"
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
@@ -16,21 +18,32 @@ struct Cuentas {
     int buenas = 0, malas = 0, omitidas = 0;
 };
 
-// Counts of one question whose right alternative is `correcta`, for the answers that match
-// `filtro` (a form or a student).
-void Suma_Pregunta(Cuentas& c, int pregunta, int correcta, const QString& filtro,
-                   const QVariant& valor) {
-    const QString base = QStringLiteral(
-        "select count(*) from respuesta_alumnos_por_rut where idprueba = ? and pregunta = ? ");
-    const QVariantList p = {estado().Id_Prueba_Actual, pregunta};
-    auto cuenta = [&](const QString& condicion, const QVariantList& extra) {
-        Recordset rs = estado().BaseDatos->OpenRecordset(base + condicion + filtro,
-                                                         p + extra + QVariantList{valor});
-        return rs[0].toInt();
-    };
-    c.buenas += cuenta(QStringLiteral(" and alternativa = ? and "), {correcta});
-    c.omitidas += cuenta(QStringLiteral(" and alternativa = 6 and "), {});
-    c.malas += cuenta(QStringLiteral(" and alternativa not in (6, ?) and "), {correcta});
+// The answers of the current test that match `filtro` (a form or a student), by question.
+using Respuestas = std::map<int, std::vector<int>>;
+
+// Read once for the whole walk: the counts below are those of the three count statements of
+// each question (right, omitted, wrong), without a statement per question.
+Respuestas Lee_Respuestas(const QString& filtro, const QVariant& valor) {
+    Respuestas r;
+    Recordset rs = estado().BaseDatos->OpenRecordset(
+        QStringLiteral("select pregunta, alternativa from respuesta_alumnos_por_rut where "
+                       "idprueba = ? and ") +
+            filtro,
+        {estado().Id_Prueba_Actual, valor});
+    for (; !rs.Eof(); rs.MoveNext())
+        if (!rs[0].isNull() && !rs[1].isNull()) r[rs[0].toInt()].push_back(rs[1].toInt());
+    return r;
+}
+
+// A question whose right alternative is 6 counts a 6 as right and as omitted alike.
+void Suma_Pregunta(Cuentas& c, const Respuestas& respuestas, int pregunta, int correcta) {
+    const auto it = respuestas.find(pregunta);
+    if (it == respuestas.end()) return;
+    for (const int a : it->second) {
+        c.buenas += a == correcta;
+        c.omitidas += a == kOmitida;
+        c.malas += a != kOmitida && a != correcta;
+    }
 }
 
 using Cierre = std::function<void(const QString& previo, const Cuentas&, bool ultimo)>;
@@ -39,6 +52,7 @@ using Cierre = std::function<void(const QString& previo, const Cuentas&, bool ul
 // row. The right alternative of question p is row p of SprRespuestas, by position.
 void Recorre_Ejes(const Grilla& respuestas, const Grilla& objetivos, bool mayusculas,
                   const QString& filtro, const QVariant& valor, const Cierre& cierra) {
+    const Respuestas todas = Lee_Respuestas(filtro, valor);
     Cuentas c;
     QString previo;
     for (int r = 1; r <= objetivos.MaxRows(); ++r) {
@@ -52,7 +66,7 @@ void Recorre_Ejes(const Grilla& respuestas, const Grilla& objetivos, bool mayusc
             c = {};
             previo = eje;
         }
-        Suma_Pregunta(c, p, correcta, filtro, valor);
+        Suma_Pregunta(c, todas, p, correcta);
     }
     if (objetivos.MaxRows() > 0) cierra(previo, c, true);
 }
