@@ -24,23 +24,27 @@ Frm_SoloRrut::Frm_SoloRrut(const QString& curso, QWidget* padre)
     auto* capa = new QVBoxLayout(this);
     capa->addWidget(vista_);
     capa->addWidget(teclear);
-    connect(vista_, &QTableView::clicked, this, [this](const QModelIndex& i) { Spr_Alumnos_Click(i.row() + 1); });
-    connect(teclear, &QPushButton::clicked, this, [this] { Ejecutar_Comando([this] { XPButton1_Click(); }); });
+    connect(vista_, &QTableView::clicked, this,
+            [this](const QModelIndex& i) { Spr_Alumnos_Click(i.row() + 1); });
+    connect(teclear, &QPushButton::clicked, this,
+            [this] { Ejecutar_Comando([this] { XPButton1_Click(); }); });
     resize(420, 480);
     Form_Load();
 }
 
 void Frm_SoloRrut::Form_Load() {
     Recordset rs = estado().BaseDatos->OpenRecordset(
-        QStringLiteral("SELECT RUT, PRIMERAPELLIDO FROM ALUMNOS  WHERE CURSO = ? order by PRIMERAPELLIDO"), {curso_});
+        QStringLiteral("SELECT RUT, PRIMERAPELLIDO FROM ALUMNOS  WHERE CURSO = ? order by "
+                       "PRIMERAPELLIDO collate ESPANOL"),
+        {curso_});
     Spr_Alumnos.SetMaxRows(rs.RecordCount());
     for (int fila = 1; !rs.Eof(); rs.MoveNext(), ++fila) {
         Spr_Alumnos.FijaCelda(fila, 1, rs[1].toString());
         Spr_Alumnos.FijaCelda(fila, 2, rs[0].toString());
     }
     if (Spr_Alumnos.MaxRows() == 0)
-        dialogos().MsgBox(QStringLiteral("No se han cargado alumnos para el curso : ") + curso_, vbOKOnly,
-                          QStringLiteral("Selección de alumnos manual"));
+        dialogos().MsgBox(QStringLiteral("No se han cargado alumnos para el curso : ") + curso_,
+                          vbOKOnly, QStringLiteral("Selección de alumnos manual"));
 }
 
 void Frm_SoloRrut::Spr_Alumnos_Click(int fila) {
