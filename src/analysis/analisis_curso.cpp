@@ -1,6 +1,10 @@
 // The course analysis: grade bands compared as texts and their shares.
 #include "analysis/analisis_curso.h"
 
+
+#include "analysis/analisis_pregunta.h"
+#include "app/estado.h"
+#include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
 
@@ -70,4 +74,57 @@ QString ConteoBandas::Porcentaje(int banda) const {
     if (c == 0) return QStringLiteral("0 %");
     const double producto = Entera(banda) ? CInt(c * 100) : c * 100;
     return CStr(Round(producto / Total(), 2)) + QStringLiteral(" %");
+}
+
+TablasCurso::TablasCurso() {
+    const QStringList cabezas = {QStringLiteral("Rango"), QStringLiteral("Alumnos"),
+                                 QStringLiteral("Porcentaje"), QString(), QString()};
+    for (int c = 1; c <= 5; ++c) SprResulprucargada.FijaCelda(0, c, cabezas[c - 1]);
+    for (int r = 1; r <= kBandas; ++r) {
+        SprResulprucargada.FijaCelda(r, 1, Rangos_Bandas()[r - 1]);
+        SprResulprucargada.FijaCelda(r, 2, QStringLiteral("0"));
+        SprResulprucargada.FijaCelda(r, 3, QStringLiteral("0"));
+    }
+}
+
+void TablasCurso::Carga_Prueba() {
+    Estado& e = estado();
+    Recordset rs = e.BaseDatos->OpenRecordset(
+        QStringLiteral("select * from prueba_rj  where idprueba = ?"), {e.Id_Prueba_Actual});
+    if (rs.Eof()) return;
+    e.Nombre_Prueba_Actual = rs[1].toString();
+    e.Profesor_Actual = rs[3].toString();
+    e.Asignatura_Actual = rs[4].toString();
+    e.Curso_Actual = rs[5].toString();
+}
+
+void TablasCurso::Carga_Curso() {
+    Estado& e = estado();
+    if (e.Profesor_Actual.isEmpty()) Carga_Prueba();
+    for (int r = 1; r <= kBandas; ++r) {
+        SprResulprucargada.FijaCelda(r, 2, QString());
+        SprResulprucargada.FijaCelda(r, 3, QString());
+    }
+    ConteoBandas conteo;
+    Recordset rs = e.BaseDatos->OpenRecordset(
+        QStringLiteral(" SELECT NOTA From ResultadoAlumnos_rj Where IDPRUEBA = ?"),
+        {e.Id_Prueba_Actual});
+    for (; !rs.Eof(); rs.MoveNext())
+        if (const int banda = Banda_Nota(Texto_Nota(rs["NOTA"]))) conteo.Suma(banda);
+    MSChart1.chartType = GraficoLineas2D;
+    std::vector<std::vector<double>> datos;
+    for (int b = 1; b <= kBandas; ++b) datos.push_back({conteo.Cuenta(b)});
+    MSChart1.ChartData(Etiquetas_Grafico_Bandas(), datos);
+    MSChart1.chartType = GraficoBarras2D;
+    MSChart1.Refresh();
+    Llena_Grilla(conteo);
+}
+
+void TablasCurso::Llena_Grilla(const ConteoBandas& conteo) {
+    for (int r = 1; r <= kBandas; ++r) {
+        SprResulprucargada.FijaCelda(r, 2, CStr(conteo.Cuenta(r)));
+        SprResulprucargada.FijaCelda(r, 3, conteo.Porcentaje(r));
+    }
+    // The test's identity in column 5, the grid's last.
+    Agrega_Datos_Prueba(SprResulprucargada);
 }

@@ -7,6 +7,9 @@
 #include <QVariant>
 #include <array>
 
+#include "platform/grafico.h"
+#include "platform/grilla.h"
+
 constexpr int kBandas = 12;
 
 // The bands as the grid shows them, "1.00 - 1.50" to "6.51 - 7.00".
@@ -32,4 +35,22 @@ class ConteoBandas {
 
   private:
     std::array<double, kBandas> cuenta_{};
+};
+
+// The course analysis as its screen holds it: the grid of bands and the chart.
+class TablasCurso {
+  public:
+    // The grid as it stands before the load: the bands, each with 0 students.
+    TablasCurso();
+    // The load for the test in hand: its identity read when no teacher is known yet, the
+    // grades counted by band, the chart (bars of the counts) and the grid.
+    void Carga_Curso();
+
+    // Columns 1 Rango, 2 Alumnos, 3 Porcentaje, 5 the test's identity on rows 2 to 7.
+    Grilla SprResulprucargada{12, 5};
+    Grafico MSChart1;
+
+  private:
+    void Carga_Prueba();
+    void Llena_Grilla(const ConteoBandas& conteo);
 };

@@ -3,7 +3,9 @@
 #include "analysis/analisis_ejes.h"
 
 #include <functional>
+#include <map>
 
+#include "analysis/analisis_pregunta.h"
 #include "app/estado.h"
 #include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
@@ -16,21 +18,32 @@ struct Cuentas {
     int buenas = 0, malas = 0, omitidas = 0;
 };
 
-// Counts of one question whose right alternative is `correcta`, for the answers that match
-// `filtro` (a form or a student).
-void Suma_Pregunta(Cuentas& c, int pregunta, int correcta, const QString& filtro,
-                   const QVariant& valor) {
-    const QString base = QStringLiteral(
-        "select count(*) from respuesta_alumnos_por_rut where idprueba = ? and pregunta = ? ");
-    const QVariantList p = {estado().Id_Prueba_Actual, pregunta};
-    auto cuenta = [&](const QString& condicion, const QVariantList& extra) {
-        Recordset rs = estado().BaseDatos->OpenRecordset(base + condicion + filtro,
-                                                         p + extra + QVariantList{valor});
-        return rs[0].toInt();
-    };
-    c.buenas += cuenta(QStringLiteral(" and alternativa = ? and "), {correcta});
-    c.omitidas += cuenta(QStringLiteral(" and alternativa = 6 and "), {});
-    c.malas += cuenta(QStringLiteral(" and alternativa not in (6, ?) and "), {correcta});
+// The answers of the current test that match `filtro` (a form or a student), by question.
+using Respuestas = std::map<int, std::vector<int>>;
+
+// Read once for the whole walk: the counts below are those of the three count statements of
+// each question (right, omitted, wrong), without a statement per question.
+Respuestas Lee_Respuestas(const QString& filtro, const QVariant& valor) {
+    Respuestas r;
+    Recordset rs = estado().BaseDatos->OpenRecordset(
+        QStringLiteral("select pregunta, alternativa from respuesta_alumnos_por_rut where "
+                       "idprueba = ? and ") +
+            filtro,
+        {estado().Id_Prueba_Actual, valor});
+    for (; !rs.Eof(); rs.MoveNext())
+        if (!rs[0].isNull() && !rs[1].isNull()) r[rs[0].toInt()].push_back(rs[1].toInt());
+    return r;
+}
+
+// A question whose right alternative is 6 counts a 6 as right and as omitted alike.
+void Suma_Pregunta(Cuentas& c, const Respuestas& respuestas, int pregunta, int correcta) {
+    const auto it = respuestas.find(pregunta);
+    if (it == respuestas.end()) return;
+    for (const int a : it->second) {
+        c.buenas += a == correcta;
+        c.omitidas += a == kOmitida;
+        c.malas += a != kOmitida && a != correcta;
+    }
 }
 
 using Cierre = std::function<void(const QString& previo, const Cuentas&, bool ultimo)>;
@@ -39,6 +52,7 @@ using Cierre = std::function<void(const QString& previo, const Cuentas&, bool ul
 // row. The right alternative of question p is row p of SprRespuestas, by position.
 void Recorre_Ejes(const Grilla& respuestas, const Grilla& objetivos, bool mayusculas,
                   const QString& filtro, const QVariant& valor, const Cierre& cierra) {
+    const Respuestas todas = Lee_Respuestas(filtro, valor);
     Cuentas c;
     QString previo;
     for (int r = 1; r <= objetivos.MaxRows(); ++r) {
@@ -52,7 +66,7 @@ void Recorre_Ejes(const Grilla& respuestas, const Grilla& objetivos, bool mayusc
             c = {};
             previo = eje;
         }
-        Suma_Pregunta(c, p, correcta, filtro, valor);
+        Suma_Pregunta(c, todas, p, correcta);
     }
     if (objetivos.MaxRows() > 0) cierra(previo, c, true);
 }
@@ -83,7 +97,7 @@ void Cierra_Curso(Grilla& sup, const QString& previo, const Cuentas& c) {
 }
 
 // One student group at offset `o` of row `fp` of SprPantalla and row `fs` of SprSoloSep.
-void Cierra_Alumno(const NivelesLogro& n, Grilla& pantalla, int fp, Grilla& solo, int fs, int o,
+void Cierra_Alumno(const NivelesLogro& n, Grilla& pantalla, int fp, Grilla* solo, int fs, int o,
                    const Cuentas& c, bool ultimo) {
     const int t = CInt(c.buenas + c.malas + c.omitidas);
     const double r = t == 0 ? 0 : Round(c.buenas * 100.0 / t, 0);
@@ -91,10 +105,11 @@ void Cierra_Alumno(const NivelesLogro& n, Grilla& pantalla, int fp, Grilla& solo
     for (int k = 0; k < 3; ++k) pantalla.FijaCelda(fp, o + 1 + k, cuentas[k]);
     pantalla.FijaCelda(fp, o + 4, CStr(r));
     pantalla.FijaCelda(fp, o + 5, Logro(n, t, r, ultimo));
-    for (int k = 0; k < 3; ++k) solo.FijaCelda(fs, o + 2 + k, cuentas[k]);
+    if (!solo) return;
+    for (int k = 0; k < 3; ++k) solo->FijaCelda(fs, o + 2 + k, cuentas[k]);
     if (t == 0) throw ErrorEjecucion(QStringLiteral("División por cero"));
-    solo.FijaCelda(fs, o + 5, CStr(Round(c.buenas * 100.0 / t, 0)));
-    solo.FijaCelda(fs, o + 6, Nivel_Sep(n, t, r, ultimo));
+    solo->FijaCelda(fs, o + 5, CStr(Round(c.buenas * 100.0 / t, 0)));
+    solo->FijaCelda(fs, o + 6, Nivel_Sep(n, t, r, ultimo));
 }
 
 void Vacia(Grilla& g) {
@@ -134,7 +149,7 @@ NivelesLogro Lee_Niveles() {
 }
 
 bool Modo_Habilidades() {
-    return estado().Tipo_Analisis == QLatin1String("HABILIDAD");
+    return estado().Tipo_Analisis != QLatin1String("EJE TEMATICO");
 }
 
 QString Titulo_Analisis() {
@@ -156,7 +171,8 @@ void Carga_Respuesta_Prueba(Grilla& SprRespuestas) {
     }
 }
 
-// Names that differ only by case sort together, so that they close one course group.
+// Names sort as the axis names do, so that the student groups pair with the course rows;
+// names that differ only by case sort together and close one course group.
 void Objetivos_Prueba(Grilla& SprObjetivos) {
     const QString eje =
         Modo_Habilidades() ? QStringLiteral("eje_objetivo") : QStringLiteral("eje_tematico");
@@ -164,7 +180,7 @@ void Objetivos_Prueba(Grilla& SprObjetivos) {
     Recordset rs = estado().BaseDatos->OpenRecordset(
         QStringLiteral("  select numero_pregunta , %1 , correlativo from NEW_EJE_TEMATICO Where "
                        "idprueba = ? and tipo_prueba = ? group by numero_pregunta, %1,correlativo "
-                       "order by %1 collate nocase")
+                       "order by %1 collate ESPANOL")
             .arg(eje),
         {estado().Id_Prueba_Actual, estado().Tipo_Prueba_Actual});
     for (int fila = 1; !rs.Eof(); rs.MoveNext(), ++fila) {
@@ -177,13 +193,15 @@ void Objetivos_Prueba(Grilla& SprObjetivos) {
 void Lee_Habilidades(Grilla& SprSuperior) {
     Llena_Nombres(
         SprSuperior,
-        QStringLiteral("  select distinct eje  From ejes where tipoprueba = ? group by eje"),
+        QStringLiteral("  select distinct eje  From ejes where tipoprueba = ? group by eje "
+                       "order by eje collate ESPANOL"),
         {estado().Tipo_Prueba_Actual});
 }
 
 void Lee_Objetivos(Grilla& SprSuperior) {
-    Llena_Nombres(SprSuperior, QStringLiteral("  select concepto From objetivos order by concepto"),
-                  {});
+    Llena_Nombres(
+        SprSuperior,
+        QStringLiteral("  select concepto From objetivos order by concepto collate ESPANOL"), {});
 }
 
 void Lee_Nombres_Por_Modo(Grilla& SprSuperior) {
@@ -265,23 +283,27 @@ QString Fnc_Carga_Forma_Prueba(const QString& rut) {
 }
 
 void Agrega_Alummnos(const Grilla& SprRespuestas, const Grilla& SprObjetivos,
-                     const NivelesLogro& niveles, Grilla& SprPantalla, Grilla& SprSoloSep,
-                     Grilla& SprSep) {
+                     const NivelesLogro& niveles, Grilla& SprPantalla, Grilla* SprSoloSep,
+                     Grilla* SprSep) {
     Vacia(SprPantalla);
-    Vacia(SprSep);
-    Vacia(SprSoloSep);
+    if (SprSep) Vacia(*SprSep);
+    if (SprSoloSep) {
+        Vacia(*SprSoloSep);
+        const int columnas = 5 * Grupos_Alumno(SprObjetivos) + 2;
+        SprSoloSep->SetMaxCols(std::max(SprSoloSep->MaxCols(), columnas));
+    }
     Recordset rs = estado().BaseDatos->OpenRecordset(
         QStringLiteral(" select DISTINCT b.PRIMERAPELLIDO, RUT from respuesta_alumnos_por_rut A, "
                        "alumnos B where idprueba = ? and forma in( 1,2,3,4)  and a.rut_alumno = "
-                       "b.rut  order by  b.PRIMERAPELLIDO "),
+                       "b.rut  order by  b.PRIMERAPELLIDO collate ESPANOL"),
         {estado().Id_Prueba_Actual});
     SprPantalla.FijaCelda(0, 0, QStringLiteral("ALUMNOS"));
     for (; !rs.Eof(); rs.MoveNext()) {
         const int fp = SprPantalla.MaxRows();
-        const int fs = SprSoloSep.MaxRows();
+        const int fs = SprSoloSep ? SprSoloSep->MaxRows() : 0;
         const QString rut = rs[1].toString();
         SprPantalla.FijaCelda(fp, 0, rs[0].toString());
-        SprSoloSep.FijaCelda(fs, 1, rs[0].toString());
+        if (SprSoloSep) SprSoloSep->FijaCelda(fs, 1, rs[0].toString());
         int o = 1;
         // Here the axis is compared as it stands: names that differ by case are two groups.
         Recorre_Ejes(SprRespuestas, SprObjetivos, false, QStringLiteral("rut_alumno = ?"), rut,
@@ -289,7 +311,7 @@ void Agrega_Alummnos(const Grilla& SprRespuestas, const Grilla& SprObjetivos,
                          Cierra_Alumno(niveles, SprPantalla, fp, SprSoloSep, fs, o, c, ultimo);
                          o += 5;
                      });
-        SprSoloSep.SetMaxRows(fs + 1);
+        if (SprSoloSep) SprSoloSep->SetMaxRows(fs + 1);
         SprPantalla.FijaCelda(fp, 1, Fnc_Carga_Forma_Prueba(rut));
         SprPantalla.SetBackColor(fp, 1, ColorAmarillo);
         SprPantalla.SetMaxRows(fp + 1);
@@ -298,10 +320,10 @@ void Agrega_Alummnos(const Grilla& SprRespuestas, const Grilla& SprObjetivos,
 }
 
 void Carga_Nueva_Grilla_Sep(const Grilla& SprSuperior, const Grilla& SprPantalla,
-                            const NivelesLogro& niveles, Grilla& SprSep) {
+                            const NivelesLogro& niveles, Grilla& SprSep, bool sin_alumnos_termina) {
     static const QStringList codigos = {"NB", "NMB", "NMA", "NA"};
     Vacia(SprSep);
-    if (SprPantalla.MaxRows() == 0) return;
+    if (sin_alumnos_termina && SprPantalla.MaxRows() == 0) return;
     int o = 0;
     for (int a = 1; a <= SprSuperior.MaxRows(); ++a, o += 5) {
         int cuentas[4] = {};

@@ -31,7 +31,8 @@ class NivelesLogro {
 // "select concepto,desde, hasta from NivelesCalificacion"; other codes are passed over.
 NivelesLogro Lee_Niveles();
 
-// True when Tipo_Analisis asks for skills ("HABILIDAD"); axes otherwise.
+// False when Tipo_Analisis asks for axes ("EJE TEMATICO"); skills otherwise, an empty value
+// (no axes or skills entry used yet) included.
 bool Modo_Habilidades();
 // "Analisis Habilidades" or "Analisis Ejes Tematicos", by mode.
 QString Titulo_Analisis();
@@ -63,16 +64,20 @@ void Setea_Grilla_Pantalla(int grupos, Grilla& SprPantalla);
 // Axis groups of a student walk: changes of the trimmed axis in SprObjetivos.
 int Grupos_Alumno(const Grilla& SprObjetivos);
 
-// Each student per axis (SprPantalla) and with a SEP level (SprSoloSep); empties SprSep.
+// Each student per axis (SprPantalla) and, given SprSoloSep, with a SEP level there, five
+// columns per group from 5k-2 (the grid is widened to hold every group); empties SprSep when
+// given. The SEP screen gives neither.
 void Agrega_Alummnos(const Grilla& SprRespuestas, const Grilla& SprObjetivos,
-                     const NivelesLogro& niveles, Grilla& SprPantalla, Grilla& SprSoloSep,
-                     Grilla& SprSep);
+                     const NivelesLogro& niveles, Grilla& SprPantalla, Grilla* SprSoloSep = nullptr,
+                     Grilla* SprSep = nullptr);
 // " select forma from respuesta_alumnos_por_rut ...", the first record's form.
 QString Fnc_Carga_Forma_Prueba(const QString& rut);
 
-// Students of the course in each of the four levels per axis.
+// Students of the course in each of the four levels per axis. With `sin_alumnos_termina` a
+// course without students ends it at once; without it such a course divides by a total of 0.
 void Carga_Nueva_Grilla_Sep(const Grilla& SprSuperior, const Grilla& SprPantalla,
-                            const NivelesLogro& niveles, Grilla& SprSep);
+                            const NivelesLogro& niveles, Grilla& SprSep,
+                            bool sin_alumnos_termina = true);
 
 // The chart's rows from SprSuperior: % buenas, % malas, % omitidas, rendimiento.
 std::vector<std::vector<double>> Datos_Grafico_Ejes(const Grilla& SprSuperior);

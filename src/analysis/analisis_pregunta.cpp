@@ -126,7 +126,8 @@ void Agrega_Datos_Prueba(Grilla& grilla) {
         QStringLiteral("Asignatura    : ") + e.Asignatura_Actual,
         QStringLiteral("Fecha         : ") + Fecha_Texto(QDate::currentDate()),
     };
-    for (int r = 2; r <= 7; ++r) grilla.FijaCelda(r, grilla.MaxCols(), lineas[r - 2]);
+    for (int r = 2; r <= std::min(7, grilla.MaxRows()); ++r)
+        grilla.FijaCelda(r, grilla.MaxCols(), lineas[r - 2]);
 }
 
 QString Archivo_Forma(const QString& nombre, int forma) {
@@ -135,4 +136,46 @@ QString Archivo_Forma(const QString& nombre, int forma) {
     const QString extension = punto < 0 ? QStringLiteral(".xlsx") : nombre.mid(punto + 1);
     return base + QStringLiteral("_FORMA_") + QString::number(forma) + QStringLiteral(".") +
            extension;
+}
+
+namespace {
+
+// Pairs of heads from column 1, then the spacer and the test's identity.
+void Cabezas(Grilla& grilla, const QString& cantidad, int pares) {
+    for (int k = 0; k < pares; ++k) {
+        grilla.FijaCelda(0, 2 * k + 1, cantidad);
+        grilla.FijaCelda(0, 2 * k + 2, QStringLiteral("%"));
+    }
+    grilla.FijaCelda(0, 2 * pares + 1, QStringLiteral(" "));
+    grilla.FijaCelda(0, 2 * pares + 2, QStringLiteral("Descripción Prueba"));
+}
+
+}  // namespace
+
+void TablasPregunta::Setea_Grilla() {
+    Cabezas(SprAciertos, QStringLiteral("Cantidad"), 3);
+}
+
+void TablasPregunta::Setea_Grilla_Fre() {
+    Cabezas(SprFrecuencia, QStringLiteral("Cant."), 6);
+}
+
+void TablasPregunta::Calcula_Forma(int16_t forma) {
+    // Each fill consumes the answers: they are read again for the second table.
+    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
+    Pongo_Aciertos(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprAciertos);
+    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
+    Pongo_Frecuencias(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprFrecuencia);
+    Genero_Grafico();
+}
+
+void TablasPregunta::Genero_Grafico() {
+    const auto datos = Datos_Grafico_Aciertos(SprAciertos);
+    QStringList preguntas;
+    for (size_t r = 1; r <= datos.size(); ++r) preguntas << QString::number(r);
+    MSChart1.series = {QStringLiteral("Malas"), QStringLiteral("Buenas"),
+                       QStringLiteral("Omitidas")};
+    MSChart1.ChartData(preguntas, datos);
+    MSChart1.chartType = GraficoBarras2D;
+    MSChart1.Refresh();
 }

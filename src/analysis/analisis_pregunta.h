@@ -7,7 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-class Grilla;
+#include "platform/grafico.h"
+#include "platform/grilla.h"
 
 // Codes of the stored answers and of the key: 1 to 5 are A to E, 6 omitted.
 constexpr int kOmitida = 6;
@@ -37,3 +38,25 @@ void Agrega_Datos_Prueba(Grilla& grilla);
 // The file of form k in a several-forms export: the name split at its first "."; a name
 // without a dot takes ".xlsx" as its extension, giving two dots ("nota_FORMA_1..xlsx").
 QString Archivo_Forma(const QString& nombre, int forma);
+
+// The per-question analysis as its screen holds it: the working tables, the two shown tables
+// and the chart.
+class TablasPregunta {
+  public:
+    // Heads of SprAciertos and SprFrecuencia.
+    void Setea_Grilla();
+    void Setea_Grilla_Fre();
+    // Carga_Grafico_Aciertos, Pongo_Aciertos, again Carga_Grafico_Aciertos, Pongo_Frecuencias
+    // and Genero_Grafico for one form.
+    void Calcula_Forma(int16_t forma);
+    void Genero_Grafico();
+
+    // Hidden working tables: pregunta, alternativa.
+    Grilla Spr_Pregunta_Respuesta{0, 2};
+    Grilla Spr_Respuesta_Pauta{0, 2};
+    // Count and share of buenas, malas, omitidas; 7 a spacer; 8 the test's identity.
+    Grilla SprAciertos{0, 8};
+    // Count and share of A to E and of omitted; 13 a spacer; 14 the test's identity.
+    Grilla SprFrecuencia{0, 14};
+    Grafico MSChart1;
+};

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include "analysis/analisis_pregunta.h"
 #include "analysis/exporta_comun.h"
 #include "app/estado.h"
 #include "platform/dialogos.h"
@@ -181,4 +182,16 @@ void Exporta_Con_Dialogo(Grilla& grilla, int16_t Tipo, const FuentesExportacion&
     if (Exporta_Planilla(nombre, grilla, grilla, Tipo, fuentes))
         dialogos().MsgBox(QStringLiteral(" Datos exportados en ") + nombre, vbInformation,
                           QStringLiteral("Zorta"));
+}
+
+QString Exporta_Formas(const QString& nombre, int formas, const std::function<void(int)>& prepara,
+                       const std::function<void(const QString&)>& exporta) {
+    QString lista;
+    for (int k = 1; k <= formas; ++k) {
+        prepara(k);
+        const QString archivo = Archivo_Forma(nombre, k);
+        exporta(archivo);
+        lista += QStringLiteral("\r") + archivo + QStringLiteral("\r ");
+    }
+    return lista;
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 class Grafico;
 class Grilla;
@@ -28,3 +29,20 @@ void Arma_Planilla(Hoja& hoja, Grilla& Grilla1, Grilla& Grilla2, int16_t Tipo,
 // The callers' protocol for one file: the save dialog, the export, and " Datos exportados en "
 // with the name when it went well. Nothing happens when no name is chosen.
 void Exporta_Con_Dialogo(Grilla& grilla, int16_t Tipo, const FuentesExportacion& fuentes = {});
+
+// The several-forms branch of the callers' protocol: for each form k from 1 to `formas`,
+// `prepara`(k) recomputes the screen and `exporta` writes the file Archivo_Forma(nombre, k),
+// its result ignored. Gives the list of the final message: each file between "\r" and "\r ".
+QString Exporta_Formas(const QString& nombre, int formas, const std::function<void(int)>& prepara,
+                       const std::function<void(const QString&)>& exporta);
+
+// The export of the correction evaluation, written by itself and not by Exporta_Planilla: sheet
+// "Evaluacion de Correccion", the students' grid copied into Spr_Pauta_Respuesta and from there
+// under its heading cells by the "Spr_" rule, then the test's data with the stored percentages
+// `minima_4` and `maxima_7`. ErrorEjecucion when the file can't be written.
+void Exportar_Excel_Correccion(const QString& ruta, const Grilla& SprEvaCorrec,
+                               Grilla& Spr_Pauta_Respuesta, const QString& minima_4,
+                               const QString& maxima_7);
+// Its sheet.
+void Arma_Planilla_Correccion(Hoja& hoja, const Grilla& SprEvaCorrec, Grilla& Spr_Pauta_Respuesta,
+                              const QString& minima_4, const QString& maxima_7);

@@ -8,6 +8,7 @@
 #include "cli/corregir.h"
 #include "cli/demo.h"
 #include "cli/hoja.h"
+#include "cli/informe.h"
 #include "cli/leer.h"
 #include "platform/error_ejecucion.h"
 
@@ -25,6 +26,8 @@ const std::map<QString, Subcomando>& subcomandos() {
         {QStringLiteral("demo"),
          {QStringLiteral("prepara una prueba de demostración con sus hojas escaneadas"), Cmd_Demo}},
         {QStringLiteral("hoja"), {QStringLiteral("dibuja una hoja de respuestas (BMP)"), Cmd_Hoja}},
+        {QStringLiteral("informe"),
+         {QStringLiteral("escribe la planilla de un análisis de una prueba"), Cmd_Informe}},
         {QStringLiteral("leer"), {QStringLiteral("lee hojas escaneadas y escribe JSON"), Cmd_Leer}},
     };
     return tabla;
@@ -60,3 +63,11 @@ int Ejecuta_Cli(const QStringList& args) {
     }
     return 1;
 }
+
+bool Pide_Ayuda(const QStringList& args, const char* ayuda) {
+    if (!args.contains(QLatin1String("--help")) && !args.contains(QLatin1String("-h")))
+        return false;
+    QTextStream(stdout) << ayuda;
+    return true;
+}
+

@@ -8,6 +8,7 @@
 
 #include "app/estado.h"
 #include "app/inicio.h"
+#include "cli/cli.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos_consola.h"
 #include "platform/numeros.h"
@@ -125,10 +126,7 @@ bool Elige_Prueba(const Argumentos& a) {
 int Cmd_Corregir(const QStringList& args) {
     static QTextStream salida(stdout);
     QTextStream err(stderr);
-    if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
-        salida << kAyuda;
-        return 0;
-    }
+    if (Pide_Ayuda(args, kAyuda)) return 0;
     Argumentos a;
     if (!Lee_Argumentos(args, a)) {
         err << "zorta corregir: opciones no válidas\n" << kAyuda;

@@ -3,10 +3,25 @@
 
 #include <cmath>
 
+#include "app/estado.h"
+#include "grading/enmienda_notas.h"
+#include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
 #include "platform/numeros.h"
 
 namespace {
+
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
+
+int16_t Fnc_Trae_Alternativas(const QVariant& forma) {
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral(" select count (*)  From resp_preguntas_pautas  Where idprueba = ? and "
+                       "forma = ?"),
+        {estado().Id_Prueba_Actual, forma});
+    return CInt(rs[0].toDouble());
+}
 
 // A grade cell as the screen reads it: a decimal comma is a point.
 double Nota(const Grilla& spr, int fila) {
@@ -62,4 +77,51 @@ double Calculo_Desviacion(const Grilla& spr, double promedio) {
         suma += Round(std::pow(promedio - Val(spr.Celda(f, 10)), 2), 2);
     if (filas == 0) throw ErrorEjecucion(QStringLiteral("División por cero"));
     return Round(std::sqrt(suma / filas), 2);
+}
+
+void Carga_Alumnos_Pantalla(Grilla& spr) {
+    Recordset rs =
+        Base().OpenRecordset(QStringLiteral("select * from ResultadoAlumnos_rj where idprueba = ?"),
+                             {estado().Id_Prueba_Actual});
+    spr.SetMaxRows(0);
+    spr.SetMaxRows(std::max(1, rs.RecordCount()));
+    for (int f = 1; !rs.Eof(); rs.MoveNext(), ++f) {
+        const double buenas = rs["Buenas"].toDouble();
+        estado().Ptje_Max_Actual = Fnc_Trae_Alternativas(rs["Forma"]);
+        if (buenas != 0 && estado().Ptje_Max_Actual == 0)
+            throw ErrorEjecucion(QStringLiteral("División por cero"));
+        const double rendimiento =
+            buenas == 0 ? 0 : Round(buenas * 100 / estado().Ptje_Max_Actual, 0);
+        const QString celdas[] = {rs["IdPrueba"].toString(),
+                                  rs["Rut"].toString(),
+                                  Primer_Apellido(rs["Rut"].toString()),
+                                  CStr(buenas),
+                                  rs["Malas"].toString(),
+                                  rs["Omitidas"].toString(),
+                                  rs["Nulas"].toString(),
+                                  CStr(buenas),
+                                  CStr(rendimiento),
+                                  rs["Forma"].toString(),
+                                  CStr(Round(rs["Nota"].toDouble(), 2))};
+        for (int c = 0; c < 11; ++c) spr.FijaCelda(f, c + 1, celdas[c]);
+    }
+}
+
+bool Lee_Porcentajes_Nota(QString& desde, QString& hasta) {
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral("select desde, hasta from NivelesCalificacion where concepto = ?"),
+        {CStr(int(estado().Id_Prueba_Actual))});
+    const bool hay = !rs.Eof();
+    for (; !rs.Eof(); rs.MoveNext()) {
+        desde = CStr(rs[0].toDouble());
+        hasta = CStr(rs[1].toDouble());
+    }
+    return hay;
+}
+
+void Cabezas_Evaluacion(Grilla& spr) {
+    const char* const cabezas[] = {"Idprueba",    "Rut",      "Nombre", "Buenas",
+                                   "Malas",       "Omitidas", "Nulas",  "Puntaje",
+                                   "Rendimiento", "Forma",    "Nota"};
+    for (int c = 0; c < 11; ++c) spr.FijaCelda(0, c + 1, QString::fromUtf8(cabezas[c]));
 }

@@ -29,3 +29,12 @@ Cifras_Curso Cambia_Nota_Promedio(const Grilla& spr);
 // Population deviation over column 10 around `promedio`, up to the first empty cell; each
 // squared difference rounded to 2 decimals, the result too.
 double Calculo_Desviacion(const Grilla& spr, double promedio);
+
+// The heads of the students' grid (and of its copy for the spreadsheet): "Idprueba" to "Nota".
+void Cabezas_Evaluacion(Grilla& spr);
+// Carga_Alumnos_Pantalla: one row a result of the current test. Ptje_Max_Actual follows the key
+// of each row's form, so the last row decides the re-scaling.
+void Carga_Alumnos_Pantalla(Grilla& spr);
+// The test's stored percentages for the grades 4 and 7 (the row of NivelesCalificacion under
+// its id), as the fields show them; false when it has none.
+bool Lee_Porcentajes_Nota(QString& desde, QString& hasta);

@@ -1,7 +1,10 @@
 // The store engine over Qt SQL and SQLite.
 #include "platform/base_datos.h"
 
+#include <sqlite3.h>
+
 #include <QAtomicInt>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -10,6 +13,7 @@
 
 #include "platform/error_ejecucion.h"
 #include "platform/errores_base.h"
+#include "platform/orden_espanol.h"
 
 namespace {
 
@@ -45,6 +49,19 @@ QSqlQuery Prepara(const QSqlDatabase& db, const QString& sql, const QVariantList
                            : p);
     if (!q.exec()) Falla(db, q.lastError(), sql, parametros);
     return q;
+}
+
+int Cotejo_Espanol(void*, int largo_a, const void* a, int largo_b, const void* b) {
+    return Compara_Espanol(QString::fromUtf8(static_cast<const char*>(a), largo_a),
+                           QString::fromUtf8(static_cast<const char*>(b), largo_b));
+}
+
+// Names order as a Spanish reader expects wherever a statement says "collate ESPANOL".
+void Registra_Orden_Espanol(const QSqlDatabase& db) {
+    const QVariant h = db.driver()->handle();
+    sqlite3* s = h.isValid() ? *static_cast<sqlite3* const*>(h.data()) : nullptr;
+    if (!s || sqlite3_create_collation(s, "ESPANOL", SQLITE_UTF8, nullptr, Cotejo_Espanol) != 0)
+        throw ErrorEjecucion(QStringLiteral("No se pudo preparar el orden de los nombres"));
 }
 
 bool Es_Nombre_De_Tabla(const QString& texto) {
@@ -144,6 +161,7 @@ std::shared_ptr<BaseDatos> BaseDatos::OpenDatabase(const QString& ruta, Apertura
             throw ErrorEjecucion(QStringLiteral("No se pudo abrir la base de datos %1: %2")
                                      .arg(ruta, d.lastError().text()));
     }
+    Registra_Orden_Espanol(base->db());
     // Reading the journal mode touches the file header: a file that is not a store fails here.
     try {
         if (modo == Apertura::Consulta)

@@ -1,8 +1,9 @@
 // The chart layer: a chart as the system keeps it (type code, rows of data by series, row
-// labels) and its picture for the spreadsheets. Drawing belongs to the screens layer, which
-// installs it; the core only asks for a picture.
+// labels) and its picture for the spreadsheets, drawn here with QPainter so that a report
+// written without any screen has its chart too. The screens show the same data with Qt Charts.
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QSize>
 #include <QStringList>
@@ -30,11 +31,13 @@ class Grafico {
     void Refresh() const;
     std::function<void()> al_refrescar;
 
-    // Writes the chart as a PNG picture of `tamano` pixels; ErrorEjecucion when no drawing is
-    // installed or the file can't be written.
+    // Writes the chart as a PNG picture of `tamano` pixels; ErrorEjecucion when the file can't
+    // be written.
     void Guarda_Imagen(const QString& ruta, QSize tamano = {800, 400}) const;
 };
 
-// How charts are drawn to a picture; installed by the chart view of the screens layer.
-using DibujoGrafico = std::function<QImage(const Grafico&, QSize)>;
-void Instala_Dibujo_Graficos(DibujoGrafico dibujo);
+// The chart's picture: white ground, value axis from 0 with its grid, one bar group (or one
+// point of each line, for code 3) per row, the row labels below and the series' legend above.
+QImage Dibuja_Grafico(const Grafico& grafico, QSize tamano);
+// The colour of series `s`, the same on screen and in the picture.
+QColor Color_Serie(size_t s);

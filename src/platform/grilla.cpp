@@ -1,6 +1,8 @@
 // The working grid.
 #include "platform/grilla.h"
 
+#include "platform/error_ejecucion.h"
+
 Grilla::Grilla(int filas, int columnas) {
     SetMaxCols(columnas);
     SetMaxRows(filas);
@@ -24,12 +26,22 @@ bool Grilla::Dentro(int fila, int columna) const {
     return fila >= 0 && fila <= filas_ && columna >= 0 && columna <= columnas_;
 }
 
+void Grilla::Exige_Dentro(int fila, int columna) const {
+    if (!Dentro(fila, columna))
+        throw ErrorEjecucion(
+            QStringLiteral("Celda fuera de la grilla: fila %1, columna %2 de %3 por %4")
+                .arg(fila)
+                .arg(columna)
+                .arg(filas_)
+                .arg(columnas_));
+}
+
 QString Grilla::Celda(int fila, int columna) const {
     return Dentro(fila, columna) ? celdas_[fila][columna] : QString();
 }
 
 void Grilla::FijaCelda(int fila, int columna, const QString& texto) {
-    if (!Dentro(fila, columna)) return;
+    Exige_Dentro(fila, columna);
     celdas_[fila][columna] = texto;
     if (al_cambiar_celda) al_cambiar_celda(fila, columna);
 }
@@ -67,13 +79,13 @@ int Grilla::ForeColor(int fila, int columna) const {
 }
 
 void Grilla::SetBackColor(int fila, int columna, int color) {
-    if (!Dentro(fila, columna)) return;
+    Exige_Dentro(fila, columna);
     colores_[{fila, columna}].fondo = color;
     if (al_cambiar_celda) al_cambiar_celda(fila, columna);
 }
 
 void Grilla::SetForeColor(int fila, int columna, int color) {
-    if (!Dentro(fila, columna)) return;
+    Exige_Dentro(fila, columna);
     colores_[{fila, columna}].letra = color;
     if (al_cambiar_celda) al_cambiar_celda(fila, columna);
 }

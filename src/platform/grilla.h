@@ -17,7 +17,7 @@ enum ColorCelda : int {
 };
 
 class Grilla {
-public:
+  public:
     Grilla(int filas = 0, int columnas = 0);
 
     int MaxRows() const { return filas_; }
@@ -31,7 +31,8 @@ public:
     QString Text() const { return Celda(Row, Col); }
     void SetText(const QString& texto) { FijaCelda(Row, Col, texto); }
 
-    // Direct access; a cell outside the grid reads as "" and ignores writes.
+    // Direct access; a cell outside the grid reads as "", and a write there (of text or of a
+    // colour) is an ErrorEjecucion: nothing a screen computes is dropped in silence.
     QString Celda(int fila, int columna) const;
     void FijaCelda(int fila, int columna, const QString& texto);
 
@@ -58,12 +59,13 @@ public:
     std::function<void()> al_cambiar_forma;
     std::function<void(int, int)> al_cambiar_celda;
 
-private:
+  private:
     struct Colores {
         int fondo = -1;
         int letra = -1;
     };
     bool Dentro(int fila, int columna) const;
+    void Exige_Dentro(int fila, int columna) const;
     void Avisa_Forma();
 
     int filas_ = 0;

@@ -54,24 +54,41 @@ Rango& Rango::HorizontalAlignment(int codigo) {
     return Cada([&](CeldaHoja& c) { c.alineacion_h = codigo; });
 }
 
+// Digits with an optional sign and decimal point, and an optional "%" after them.
+LecturaValor Lee_Valor(const QString& texto) {
+    static const QRegularExpression numero(
+        QStringLiteral("^\\s*([+-]?(?:\\d+(?:\\.(\\d*))?|\\.(\\d+)))\\s*(%?)\\s*$"));
+    const auto m = numero.match(texto);
+    if (!m.hasMatch()) return {};
+    LecturaValor l{true, m.captured(1).toDouble(), QString()};
+    if (!m.captured(4).isEmpty()) {
+        const qsizetype decimales = m.captured(2).size() + m.captured(3).size();
+        l.cifra /= 100;
+        l.formato = decimales == 0 ? QStringLiteral("0%")
+                                   : QStringLiteral("0.") + QString(decimales, u'0') + u'%';
+    }
+    return l;
+}
+
 // A merged block shows its top-left cell only: the value goes there alone.
 Rango& Rango::Value(const QString& texto) {
+    const LecturaValor l = Lee_Valor(texto);
+    auto pon = [&](CeldaHoja& c) {
+        c.valor = texto;
+        c.numero = l.numero;
+        c.cifra = l.cifra;
+        c.formato = l.formato;
+    };
     for (const Area& u : hoja_.uniones_)
         if (u == area_) {
-            CeldaHoja& c = hoja_.celdas_[{u.fila1, u.columna1}];
-            c.valor = texto;
-            c.numero = false;
+            pon(hoja_.celdas_[{u.fila1, u.columna1}]);
             return *this;
         }
-    return Cada([&](CeldaHoja& c) {
-        c.valor = texto;
-        c.numero = false;
-    });
+    return Cada(pon);
 }
 
 Rango& Rango::Value(double numero) {
-    Value(Numero_Como_Tecleado(numero));
-    return Cada([&](CeldaHoja& c) { c.numero = !c.valor.isEmpty(); });
+    return Value(Numero_Como_Tecleado(numero));
 }
 
 // Merging drops every value but the top-left one, and any merge the new one overlaps.

@@ -9,6 +9,14 @@
 #include <memory>
 #include <vector>
 
+// How a spreadsheet reads a text put in a cell: a number, with its format, or text.
+struct LecturaValor {
+    bool numero = false;
+    double cifra = 0;
+    QString formato;
+};
+LecturaValor Lee_Valor(const QString& texto);
+
 // True when a workbook can be written here: the writer works and the temporary folder
 // takes a file. The exports need both.
 bool Planilla_Disponible();
@@ -18,8 +26,10 @@ constexpr int xlCenter = -4108;
 
 // Content and style of one sheet cell; -1, 0 and "" mean the default.
 struct CeldaHoja {
-    QString valor;
-    bool numero = false;  // valor holds a number written by Value(double)
+    QString valor;        // as it was put in the cell
+    bool numero = false;  // the sheet holds the number `cifra`, not the text
+    double cifra = 0;     // a percentage as its fraction: "16.67%" is 0.1667
+    QString formato;      // number format, "0.00%" for that percentage; "" general
     int fondo = -1;       // Interior.ColorIndex
     double tamano = 0;    // Font.size
     bool negrita = false;
@@ -53,6 +63,9 @@ class Rango {
     Rango& Merge();
     Rango& VerticalAlignment(int codigo);
     Rango& HorizontalAlignment(int codigo);
+    // A text that reads as a number ("13", "4.5", "16.67%", "50 %") goes in as that number,
+    // a percentage under a percent format, as the spreadsheet does with a typed value; any
+    // other text stays text.
     Rango& Value(const QString& texto);
     Rango& Value(double numero);
     // Width of every column the area touches, in characters.

@@ -51,13 +51,14 @@ class Escritor {
     }
 
     lxw_format* Formato(const CeldaHoja& c) {
-        const QString clave = QStringLiteral("%1|%2|%3|%4|%5|%6")
+        const QString clave = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
                                   .arg(c.fondo)
                                   .arg(c.tamano)
                                   .arg(c.negrita)
                                   .arg(c.color_letra)
                                   .arg(c.alineacion_v)
-                                  .arg(c.alineacion_h);
+                                  .arg(c.alineacion_h)
+                                  .arg(c.formato);
         if (lxw_format* f = formatos_.value(clave)) return f;
         lxw_format* f = workbook_add_format(libro_);
         if (c.fondo > 0) {
@@ -69,6 +70,7 @@ class Escritor {
         if (c.color_letra > 0) format_set_font_color(f, Color_Paleta(c.color_letra));
         if (c.alineacion_v == xlCenter) format_set_align(f, LXW_ALIGN_VERTICAL_CENTER);
         if (c.alineacion_h == xlCenter) format_set_align(f, LXW_ALIGN_CENTER);
+        if (!c.formato.isEmpty()) format_set_num_format(f, c.formato.toUtf8().constData());
         formatos_.insert(clave, f);
         return f;
     }
@@ -76,7 +78,7 @@ class Escritor {
     void Celda(lxw_worksheet* h, int fila, int columna, const CeldaHoja& c) {
         lxw_format* f = Formato(c);
         const QByteArray texto = c.valor.toUtf8();
-        lxw_error e = c.numero ? worksheet_write_number(h, fila, columna, c.valor.toDouble(), f)
+        lxw_error e = c.numero ? worksheet_write_number(h, fila, columna, c.cifra, f)
                       : texto.isEmpty()
                           ? worksheet_write_blank(h, fila, columna, f)
                           : worksheet_write_string(h, fila, columna, texto.constData(), f);

@@ -4,10 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+#include "analysis/exporta_planilla.h"
 #include "analysis/prueba_ejes.h"
 #include "app/estado.h"
 #include "platform/error_ejecucion.h"
+#include "platform/grafico.h"
 #include "platform/grilla.h"
+#include "platform/planilla.h"
 
 namespace {
 
@@ -72,7 +77,7 @@ class Ejes : public PruebaEjes {
         Lee_Nombres_Por_Modo(sup);
         Pareo_Objetivos_Preguntas(respuestas, objetivos, "1", sup);
         Setea_Grilla_Pantalla(Grupos_Alumno(objetivos), pantalla);
-        Agrega_Alummnos(respuestas, objetivos, Niveles_Prueba(), pantalla, solo, sep);
+        Agrega_Alummnos(respuestas, objetivos, Niveles_Prueba(), pantalla, &solo, &sep);
         Carga_Nueva_Grilla_Sep(sup, pantalla, Niveles_Prueba(), sep);
     }
     static QStringList Fila(const Grilla& g, int fila, int desde, int hasta) {
@@ -80,7 +85,7 @@ class Ejes : public PruebaEjes {
         for (int c = desde; c <= hasta; ++c) t << g.Celda(fila, c);
         return t;
     }
-    Grilla respuestas{0, 2}, objetivos{0, 2}, sup{0, 7}, pantalla{0, 1}, solo{0, 20}, sep{0, 9};
+    Grilla respuestas{0, 2}, objetivos{0, 2}, sup{0, 7}, pantalla{0, 1}, solo{0, 7}, sep{0, 9};
 };
 
 TEST_F(Ejes, CursoPorEjeYAlumnosPorGrupo) {
@@ -120,6 +125,53 @@ TEST_F(Ejes, CursoPorEjeYAlumnosPorGrupo) {
               QStringList({"Algebra", "1", "50", "0", "0", "0", "0", "1", "50"}));
     EXPECT_EQ(Fila(sep, 2, 1, 9),
               QStringList({"Numeros", "0", "0", "0", "0", "0", "0", "2", "100"}));
+}
+
+// Names that differ in case and accent: the course's rows, the students' groups and the SEP
+// rows pair up by position, so all must sort alike, as a Spanish reader would.
+TEST_F(Ejes, CadaEjeConSusCifrasAunqueDifieranMayusculasYTildes) {
+    Ejecuta("delete from ejes");
+    const QStringList ejes = {"Números", "datos", "Geometría", "álgebra"};
+    for (const QString& e : ejes)
+        Ejecuta("insert into ejes (eje, TipoEnsayo, TipoPrueba) values (?, '', 'GENERAL')", {e});
+    // Axis k holds k + 1 questions, so each group's right answers tell its axis.
+    const std::map<QString, int> preguntas = {
+        {"álgebra", 2}, {"datos", 3}, {"Geometría", 4}, {"Números", 5}};
+    std::vector<int> clave;
+    for (const auto& [eje, n] : preguntas)
+        for (int i = 0; i < n; ++i) {
+            clave.push_back(1);
+            Eje(int(clave.size()), eje);
+        }
+    Clave(1, clave);
+    for (const char* rut : {"1-9", "2-7", "3-5"})
+        Alumno(rut, QStringLiteral("Alumno %1").arg(rut), 1, clave);
+    Calcula();
+    const QStringList orden = {"álgebra", "datos", "Geometría", "Números"};
+    ASSERT_EQ(sup.MaxRows(), 4);
+    const QStringList cabecera = Cabecera_Ejes(sup, 4);
+    for (int k = 1; k <= 4; ++k) {
+        const QString eje = sup.Celda(k, 0);
+        EXPECT_EQ(eje, orden[k - 1]);
+        const QString buenas = QString::number(preguntas.at(eje));
+        EXPECT_EQ(sup.Celda(k, 1), QString::number(3 * preguntas.at(eje))) << eje.toStdString();
+        EXPECT_EQ(cabecera.value(5 * k - 3), eje);
+        EXPECT_EQ(pantalla.Celda(1, 5 * k - 3), buenas) << "student group " << k;
+        EXPECT_EQ(solo.Celda(1, 5 * k - 2), buenas) << "SEP group " << k;
+        EXPECT_EQ(sep.Celda(k, 1), eje);
+    }
+    // The SEP reports hold every axis: the last group's level is in kind 8 and kind 9 alike.
+    ASSERT_EQ(solo.MaxCols(), 22);
+    EXPECT_EQ(solo.Celda(3, 22), "PD");
+    Hoja h8(QStringLiteral("h8")), h9(QStringLiteral("h9"));
+    Arma_Planilla(h8, solo, solo, 8, {nullptr, &sup});
+    EXPECT_EQ(h8.Valor(3, 22), "PD");
+    EXPECT_EQ(h8.Valor(3, 18), "5");
+    Grafico grafico;
+    Arma_Planilla(h9, solo, solo, 9, {&grafico, &sup});
+    EXPECT_EQ(h9.Valor(1, 18), "NÚMEROS");
+    EXPECT_EQ(h9.Valor(5, 18), "5");
+    EXPECT_EQ(h9.Valor(5, 22), "PD");
 }
 
 TEST_F(Ejes, PorcentajesADosDecimalesYRendimientoSinDecimales) {

@@ -5,13 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QImage>
 
 #include "app/estado.h"
 #include "platform/grafico.h"
 #include "platform/grilla.h"
 #include "platform/planilla.h"
 #include "platform/planilla_lectura.h"
-#include "platform/screens/vista_grafico.h"
 #include "support/base_temporal.h"
 
 namespace {
@@ -21,7 +21,6 @@ class Exportacion : public BaseTemporal {
     void SetUp() override {
         BaseTemporal::SetUp();
         grafico.ChartData({"a", "b"}, {{1}, {2}});
-        vista = std::make_unique<VistaGrafico>(grafico);  // installs the chart drawing
         Estado& e = estado();
         e.Curso_Actual = "2° Medio B";
         e.Nombre_Prueba_Actual = "Diagnóstico";
@@ -49,7 +48,6 @@ class Exportacion : public BaseTemporal {
         return x && x->fondo == 41 && x->color_letra == 2 && x->negrita;
     }
     Grafico grafico;
-    std::unique_ptr<VistaGrafico> vista;
 };
 
 TEST_F(Exportacion, TipoFueraDeRangoCopiaLaGrillaSinFormatoYGraba) {
@@ -209,6 +207,25 @@ TEST_F(Exportacion, Tipo5NombraLosEjesEnMayusculas) {
     EXPECT_EQ(h.Valor(2, 2), "1.1");
     EXPECT_TRUE(Encabezado(h, 3, 1));
     EXPECT_FALSE(Encabezado(h, 4, 1));
+}
+
+// The picture shows the chart: the bar of 2 stands twice as tall as the bar of 1, whichever
+// report carries it, and no screen has to have drawn the chart before.
+TEST_F(Exportacion, ElGraficoDeLaPlanillaMuestraSusDatos) {
+    for (int16_t tipo : {1, 2, 3, 4, 5, 9}) {
+        Grilla g = Llena(2, 7);
+        const Hoja h = Arma(g, tipo);
+        ASSERT_EQ(h.Imagenes().size(), 1u) << tipo;
+        QImage imagen;
+        ASSERT_TRUE(imagen.loadFromData(h.Imagenes()[0].png));
+        const QRgb barra = Color_Serie(0).rgb();
+        int izquierda = 0, derecha = 0;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                if (imagen.pixel(x, y) == barra) ++(x < imagen.width() / 2 ? izquierda : derecha);
+        ASSERT_GT(izquierda, 1000) << tipo;
+        EXPECT_NEAR(double(derecha) / izquierda, 2.0, 0.05) << tipo;
+    }
 }
 
 TEST_F(Exportacion, UnErrorAvisaYNoGraba) {

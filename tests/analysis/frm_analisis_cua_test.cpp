@@ -133,7 +133,7 @@ TEST_F(Analisis, ExportaTipo2ConElNombreElegido) {
     EXPECT_EQ(l.Celda(1, "H"), "PROCENTAJE");
     EXPECT_EQ(l.Celda(2, "A"), "2° Medio B");
     EXPECT_EQ(l.Celda(9, "F"), "4.01 - 4.50");
-    EXPECT_EQ(l.Celda(9, "H"), "40 %");
+    EXPECT_EQ(l.Celda(9, "H"), "0.4") << "the share is a number, 40 % as its fraction";
     EXPECT_EQ(l.Celda(4, "J"), "Nombre Prueba : Unidad 1");
     // No name chosen: nothing else happens.
     guion->EsperaArchivo("  ");

@@ -21,6 +21,8 @@ namespace {
 
 class CicloBase : public BaseTemporal {
   protected:
+    // The status of a program that could not be started (as `nobody`, one out of its reach).
+    static constexpr int kNoParte = -2;
     struct Fin {
         int estado = -1;
         bool normal = false;
@@ -40,6 +42,7 @@ class CicloBase : public BaseTemporal {
                 if (::setgid(65534) != 0 || ::setuid(65534) != 0) ::_exit(99);
             });
         p.start(programa, args);
+        if (!p.waitForStarted(60000)) return {kNoParte, false, p.errorString()};
         if (matar_ms >= 0) {
             QThread::usleep(static_cast<unsigned long>(matar_ms) * 1000);
             p.kill();
@@ -114,7 +117,9 @@ TEST_F(CicloBase, AReadOnlyDataFolderIsRefusedWithItsName) {
         carpeta.path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
     const Fin fin = Arranque(-1, ::geteuid() == 0);
     QFile::setPermissions(carpeta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    if (fin.estado == 99) GTEST_SKIP() << "no se pudo correr como otro usuario";
+    if (fin.estado == 99 || fin.estado == kNoParte)
+        GTEST_SKIP() << "no se pudo correr Zorta como el usuario nobody: "
+                     << fin.salida.toStdString();
     EXPECT_TRUE(fin.normal);
     EXPECT_NE(fin.estado, 0);
     EXPECT_TRUE(fin.salida.contains("No se puede escribir en la carpeta de datos"))

@@ -1,21 +1,23 @@
 // The store engine on a real SQLite file.
+#include "platform/base_datos.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/base_datos.h"
 #include "platform/error_ejecucion.h"
 
 namespace {
 
 class BaseDatosPrueba : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         ASSERT_TRUE(carpeta.isValid());
         base = BaseDatos::OpenDatabase(Ruta("base.db"));
-        base->Execute("CREATE TABLE ALUMNOS (Rut TEXT PRIMARY KEY, PRIMERAPELLIDO TEXT, curso TEXT)");
+        base->Execute(
+            "CREATE TABLE ALUMNOS (Rut TEXT PRIMARY KEY, PRIMERAPELLIDO TEXT, curso TEXT)");
     }
     QString Ruta(const QString& n) const { return QDir(carpeta.path()).filePath(n); }
     QTemporaryDir carpeta;
@@ -25,7 +27,8 @@ protected:
 }  // namespace
 
 TEST_F(BaseDatosPrueba, ValuesAreBoundSoAnApostropheIsStoredAsTyped) {
-    base->Execute("insert into alumnos values (?, ?, ?)", {"12345678-5", "O'Higgins Riquelme", "1° Medio A"});
+    base->Execute("insert into alumnos values (?, ?, ?)",
+                  {"12345678-5", "O'Higgins Riquelme", "1° Medio A"});
     Recordset rs = base->OpenRecordset("select * from ALUMNOS where rut = ?", {"12345678-5"});
     ASSERT_FALSE(rs.Eof());
     EXPECT_EQ(rs["primerapellido"].toString(), "O'Higgins Riquelme");
@@ -62,7 +65,8 @@ TEST_F(BaseDatosPrueba, AddNewOnAnOpenTable) {
 
 TEST_F(BaseDatosPrueba, AFailedStatementIsAnErrorAndKeepsWhatWasStored) {
     base->Execute("insert into alumnos values (?, ?, ?)", {"1-9", "Uno", "A"});
-    EXPECT_THROW(base->Execute("insert into alumnos values (?, ?, ?)", {"1-9", "Otro", "B"}), ErrorEjecucion);
+    EXPECT_THROW(base->Execute("insert into alumnos values (?, ?, ?)", {"1-9", "Otro", "B"}),
+                 ErrorEjecucion);
     EXPECT_THROW(base->Execute("select * from tabla_que_no_existe"), ErrorEjecucion);
     EXPECT_EQ(base->OpenRecordset("alumnos").RecordCount(), 1);
 }
@@ -90,7 +94,8 @@ TEST_F(BaseDatosPrueba, CompactDatabaseWritesAWorkingCopy) {
     base->CompactDatabase(Ruta("compacta.db"));
     auto copia = BaseDatos::OpenDatabase(Ruta("compacta.db"));
     EXPECT_EQ(copia->OpenRecordset("select PRIMERAPELLIDO from alumnos")[0].toString(), "Tres");
-    EXPECT_THROW(base->CompactDatabase(Ruta("compacta.db")), ErrorEjecucion) << "never over an existing file";
+    EXPECT_THROW(base->CompactDatabase(Ruta("compacta.db")), ErrorEjecucion)
+        << "never over an existing file";
 }
 
 TEST_F(BaseDatosPrueba, AFileThatIsNotAStoreFailsToOpenAndIsLeftAsItWas) {
@@ -128,4 +133,22 @@ TEST_F(BaseDatosPrueba, ADuplicateKeyNamesTheValueThatAlreadyExists) {
             EXPECT_TRUE(lineas.at(1).startsWith("Detalle: UNIQUE constraint failed")) << lineas.at(1).toStdString();
         }
     }
+}
+
+// Names sort as a Spanish reader expects: case-blind, accented letters beside their plain
+// letters, "ñ" after "n"; only equal texts compare equal.
+TEST_F(BaseDatosPrueba, TheSpanishCollationOrdersNamesAsAReaderExpects) {
+    const QStringList nombres = {"oso",       "Números", "ñandú",   "datos",  "Álgebra", "nube",
+                                 "Geometría", "algebra", "Algebra", "Zapata", "árbol"};
+    for (int i = 0; i < nombres.size(); ++i)
+        base->Execute("insert into alumnos values (?, ?, '')", {QString::number(i), nombres[i]});
+    Recordset rs = base->OpenRecordset(
+        "select PRIMERAPELLIDO from alumnos order by PRIMERAPELLIDO collate ESPANOL");
+    QStringList orden;
+    for (; !rs.Eof(); rs.MoveNext()) orden << rs[0].toString();
+    EXPECT_EQ(orden, QStringList({"algebra", "Algebra", "Álgebra", "árbol", "datos", "Geometría",
+                                  "nube", "Números", "ñandú", "oso", "Zapata"}));
+    Recordset igual = base->OpenRecordset(
+        "select count(*) from alumnos where PRIMERAPELLIDO = 'algebra' collate ESPANOL");
+    EXPECT_EQ(igual[0].toInt(), 1);
 }

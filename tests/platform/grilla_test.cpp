@@ -1,7 +1,9 @@
 // The working grid and its view model.
+#include "platform/grilla.h"
+
 #include <gtest/gtest.h>
 
-#include "platform/grilla.h"
+#include "platform/error_ejecucion.h"
 #include "platform/screens/grilla_modelo.h"
 
 TEST(Grilla, CursorCellsAndBounds) {
@@ -14,8 +16,10 @@ TEST(Grilla, CursorCellsAndBounds) {
     g.FijaCelda(0, 1, "Rut");  // column head
     g.FijaCelda(1, 0, "1");    // row head
     EXPECT_EQ(g.Celda(0, 1), "Rut");
-    g.FijaCelda(3, 1, "fuera");
-    g.FijaCelda(1, 4, "fuera");
+    // A write out of the grid is never dropped in silence.
+    EXPECT_THROW(g.FijaCelda(3, 1, "fuera"), ErrorEjecucion);
+    EXPECT_THROW(g.FijaCelda(1, 4, "fuera"), ErrorEjecucion);
+    EXPECT_THROW(g.SetBackColor(-1, 1, ColorAmarillo), ErrorEjecucion);
     EXPECT_EQ(g.Celda(3, 1), "");
     EXPECT_EQ(g.Celda(-1, 1), "");
     // Rows are grown one by one as the screens add them; cells already written stay.

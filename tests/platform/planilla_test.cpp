@@ -5,6 +5,7 @@
 #include <zip.h>
 
 #include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "platform/error_ejecucion.h"
@@ -81,7 +82,7 @@ TEST(Planilla, ArchivoEscrito) {
     EXPECT_EQ(l.Celda(1, "A"), "CURSO");  // a merged single cell
     EXPECT_EQ(l.Celda(1, "B"), "BUENAS");
     EXPECT_EQ(l.Celda(3, "A"), "7");
-    EXPECT_EQ(l.Celda(3, "B"), "33.33 %");
+    EXPECT_EQ(l.Celda(3, "B"), "0.3333") << "a percentage is stored as its fraction";
     const QString libro_xml = Parte(ruta, "xl/workbook.xml");
     // The added sheet stands before the workbook's own "Hoja1".
     EXPECT_LT(libro_xml.indexOf("Analisis Cualitativo Prueba"), libro_xml.indexOf("Hoja1"));
@@ -91,9 +92,57 @@ TEST(Planilla, ArchivoEscrito) {
     const QString estilos = Parte(ruta, "xl/styles.xml");
     EXPECT_TRUE(estilos.contains("FF3366FF"));
     EXPECT_TRUE(estilos.contains("FFFFFFFF"));
+    EXPECT_TRUE(estilos.contains(R"(formatCode="0.00%")")) << estilos.toStdString();
     // "Arial" as a font style names no font.
     EXPECT_FALSE(estilos.contains("Arial"));
     EXPECT_FALSE(Parte(ruta, "xl/media/image1.png").isEmpty());
+}
+
+// A text put in a cell is read as the spreadsheet reads a typed value: what reads as a number
+// is a number a teacher can sum and sort, a percentage under its own format.
+TEST(Planilla, UnTextoQueEsNumeroEntraComoNumero) {
+    const struct {
+        const char* texto;
+        bool numero;
+        double cifra;
+        const char* formato;
+    } casos[] = {
+        {"13", true, 13, ""},
+        {"4.5", true, 4.5, ""},
+        {"-2", true, -2, ""},
+        {" 7 ", true, 7, ""},
+        {"16.67%", true, 0.1667, "0.00%"},
+        {"50 %", true, 0.5, "0%"},
+        {"0%", true, 0, "0%"},
+        {"12.5 %", true, 0.125, "0.0%"},
+        {"1.00 - 1.50", false, 0, ""},
+        {"12345678-5", false, 0, ""},
+        {"4,5", false, 0, ""},
+        {"", false, 0, ""},
+        {"AVANZADO", false, 0, ""},
+        {"%", false, 0, ""},
+    };
+    Hoja h(QStringLiteral("Hoja1"));
+    for (const auto& c : casos) {
+        h.Cells(1, 1).Value(QString::fromUtf8(c.texto));
+        const CeldaHoja* celda = h.Celda(1, 1);
+        EXPECT_EQ(celda->numero, c.numero) << c.texto;
+        EXPECT_DOUBLE_EQ(celda->cifra, c.cifra) << c.texto;
+        EXPECT_EQ(celda->formato, c.formato) << c.texto;
+        EXPECT_EQ(celda->valor, c.texto) << "the text as it was put";
+    }
+    QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(QStringLiteral("n.xlsx"));
+    Libro libro;
+    libro.Sheets(1).Cells(1, 1).Value(QStringLiteral("13"));
+    libro.Sheets(1).Cells(1, 2).Value(QStringLiteral("AVANZADO"));
+    libro.Close(true, ruta);
+    const QString hoja_xml = Parte(ruta, "xl/worksheets/sheet1.xml");
+    // A number cell has no type attribute; a text cell is a shared string.
+    EXPECT_TRUE(hoja_xml.contains(QRegularExpression(R"(<c r="A1"( s="\d+")?><v>13</v>)")))
+        << hoja_xml.toStdString();
+    EXPECT_TRUE(hoja_xml.contains(QRegularExpression(R"(<c r="B1"( s="\d+")? t="s">)")))
+        << hoja_xml.toStdString();
 }
 
 TEST(Planilla, SinGuardarNoEscribeYUnaCarpetaInexistenteEsError) {

@@ -10,24 +10,16 @@
 #include "analysis/analisis_curso.h"
 #include "analysis/exporta_planilla.h"
 #include "app/estado.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
+#include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
 #include "platform/screens/vista_grafico.h"
 
 FrmAnalisis_Cua::FrmAnalisis_Cua(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FrmAnalisis_Cua"));
     setWindowTitle(QStringLiteral("Analisis Cuantitativo Prueba"));
-    const QStringList cabezas = {QStringLiteral("Rango"), QStringLiteral("Alumnos"),
-                                 QStringLiteral("Porcentaje"), QString(), QString()};
-    for (int c = 1; c <= 5; ++c) SprResulprucargada.FijaCelda(0, c, cabezas[c - 1]);
-    for (int r = 1; r <= kBandas; ++r) {
-        SprResulprucargada.FijaCelda(r, 1, Rangos_Bandas()[r - 1]);
-        SprResulprucargada.FijaCelda(r, 2, QStringLiteral("0"));
-        SprResulprucargada.FijaCelda(r, 3, QStringLiteral("0"));
-    }
     auto* identidad = new QFormLayout;
     LblPrueba = new QLabel(this);
     LblProfesor = new QLabel(this);
@@ -60,19 +52,8 @@ FrmAnalisis_Cua::FrmAnalisis_Cua(QWidget* padre) : QWidget(padre) {
     Ejecutar_Comando([this] { Form_Load(); });
 }
 
-void FrmAnalisis_Cua::Carga_Prueba() {
-    Estado& e = estado();
-    Recordset rs = e.BaseDatos->OpenRecordset(
-        QStringLiteral("select * from prueba_rj  where idprueba = ?"), {e.Id_Prueba_Actual});
-    if (rs.Eof()) return;
-    e.Nombre_Prueba_Actual = rs[1].toString();
-    e.Profesor_Actual = rs[3].toString();
-    e.Asignatura_Actual = rs[4].toString();
-    e.Curso_Actual = rs[5].toString();
-}
-
 void FrmAnalisis_Cua::Form_Load() {
-    Estado& e = estado();
+    const Estado& e = estado();
     const int16_t id = e.Id_Prueba_Actual;
     if (id == 0) {
         dialogos().MsgBox(QStringLiteral("No tiene numero de prueba asociado, selecione una "
@@ -80,46 +61,13 @@ void FrmAnalisis_Cua::Form_Load() {
                           vbExclamation, QStringLiteral("Analisis Cualitativo"));
         return;
     }
-    if (e.Profesor_Actual.isEmpty()) Carga_Prueba();
+    Carga_Curso();
     LblPrueba->setText(e.Nombre_Prueba_Actual);
     LblProfesor->setText(e.Profesor_Actual);
     LblAsignatura->setText(e.Asignatura_Actual);
     LblCurso->setText(e.Curso_Actual);
     setWindowTitle(QStringLiteral("Analisis Cuantitativo Prueba --- > ") + CStr(id) +
                    QStringLiteral(" <---"));
-    for (int r = 1; r <= kBandas; ++r) {
-        SprResulprucargada.FijaCelda(r, 2, QString());
-        SprResulprucargada.FijaCelda(r, 3, QString());
-    }
-    ConteoBandas conteo;
-    Recordset rs = e.BaseDatos->OpenRecordset(
-        QStringLiteral(" SELECT NOTA From ResultadoAlumnos_rj Where IDPRUEBA = ?"), {id});
-    for (; !rs.Eof(); rs.MoveNext())
-        if (const int banda = Banda_Nota(Texto_Nota(rs["NOTA"]))) conteo.Suma(banda);
-    MSChart1.chartType = GraficoLineas2D;
-    std::vector<std::vector<double>> datos;
-    for (int b = 1; b <= kBandas; ++b) datos.push_back({conteo.Cuenta(b)});
-    MSChart1.ChartData(Etiquetas_Grafico_Bandas(), datos);
-    MSChart1.chartType = GraficoBarras2D;
-    MSChart1.Refresh();
-    Llena_Grilla(conteo);
-}
-
-void FrmAnalisis_Cua::Llena_Grilla(const ConteoBandas& conteo) {
-    for (int r = 1; r <= kBandas; ++r) {
-        SprResulprucargada.FijaCelda(r, 2, CStr(conteo.Cuenta(r)));
-        SprResulprucargada.FijaCelda(r, 3, conteo.Porcentaje(r));
-    }
-    const Estado& e = estado();
-    const QString lineas[] = {
-        QStringLiteral("Nombre Prueba : ") + e.Nombre_Prueba_Actual,
-        QStringLiteral("Profesor      : ") + e.Profesor_Actual,
-        QStringLiteral("Curso         : ") + e.Curso_Actual,
-        QStringLiteral("Tipo Prueba   : ") + e.Tipo_Prueba_Actual,
-        QStringLiteral("Asignatura    : ") + e.Asignatura_Actual,
-        QStringLiteral("Fecha         : ") + Fecha_Texto(QDate::currentDate()),
-    };
-    for (int r = 2; r <= 7; ++r) SprResulprucargada.FijaCelda(r, 5, lineas[r - 2]);
 }
 
 void FrmAnalisis_Cua::Cambia_Tipo(int tipo) {

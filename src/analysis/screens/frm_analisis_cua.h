@@ -5,13 +5,12 @@
 
 #include <QWidget>
 
-#include "platform/grafico.h"
-#include "platform/grilla.h"
+#include "analysis/analisis_curso.h"
 
 class QLabel;
 class VistaGrafico;
 
-class FrmAnalisis_Cua : public QWidget {
+class FrmAnalisis_Cua : public QWidget, public TablasCurso {
     Q_OBJECT
   public:
     explicit FrmAnalisis_Cua(QWidget* padre = nullptr);
@@ -22,16 +21,11 @@ class FrmAnalisis_Cua : public QWidget {
     void XPButton3_Click();  // "Exportar Excel", report kind 2
     void XPButton4_Click();  // "Imprimir"
 
-    // Columns 1 Rango, 2 Alumnos, 3 Porcentaje, 5 the test's identity on rows 2 to 7.
-    Grilla SprResulprucargada{12, 5};
-    Grafico MSChart1;
     QLabel* LblPrueba;
     QLabel* LblProfesor;
     QLabel* LblAsignatura;
     QLabel* LblCurso;
 
   private:
-    void Carga_Prueba();
-    void Llena_Grilla(const class ConteoBandas& conteo);
     void Cambia_Tipo(int tipo);
 };

@@ -35,12 +35,17 @@ void Avisa_Lista(const QString& lista) {
 
 }  // namespace
 
-FrmHabiliObjet::FrmHabiliObjet(QWidget* padre) : QWidget(padre) {
-    setObjectName(QStringLiteral("FrmHabiliObjet"));
+FrmHabiliObjet::FrmHabiliObjet(QWidget* padre) : FrmHabiliObjet(padre, false) {}
+
+FrmHabiliObjet::FrmHabiliObjet(QWidget* padre, bool sep) : QWidget(padre), TablasEjes(sep) {
+    setObjectName(sep ? QStringLiteral("FrmSEP") : QStringLiteral("FrmHabiliObjet"));
     setWindowTitle(Titulo_Analisis());
-    const QStringList cabezas = {"Cantidad", "% Buenas",  "Cantidad",   "% Malas",
-                                 "Cantidad", "% Omisión", "Rendimiento"};
-    for (int c = 1; c <= 7; ++c) SprSuperior.FijaCelda(0, c, cabezas[c - 1]);
+    Construye();
+    resize(1200, 720);
+    Ejecutar_Comando([this] { Form_Load(); });
+}
+
+void FrmHabiliObjet::Construye() {
     LblForma = new QLabel(QStringLiteral("Forma"), this);
     CboForma = new QComboBox(this);
     CboForma->setObjectName(QStringLiteral("CboForma"));
@@ -53,33 +58,55 @@ FrmHabiliObjet::FrmHabiliObjet(QWidget* padre) : QWidget(padre) {
     auto* superior = Vista_Grilla(this, QStringLiteral("SprSuperior"), SprSuperior, {});
     superior->verticalHeader()->setMinimumWidth(200);
     superior->horizontalHeader()->setDefaultSectionSize(86);
+    auto* curso = new QVBoxLayout;
+    curso->addWidget(superior, 1);
+    if (Es_Sep()) curso->addWidget(Vista_Niveles(), 1);
     auto* arriba = new QHBoxLayout;
-    arriba->addWidget(superior, 3);
+    arriba->addLayout(curso, 3);
     arriba->addWidget(new VistaGrafico(MSChart1, this), 2);
     vista_pantalla_ = Vista_Grilla(this, QStringLiteral("SprPantalla"), SprPantalla, {});
     vista_pantalla_->setHorizontalHeader(new CabeceraGrupos(vista_pantalla_));
     vista_pantalla_->horizontalHeader()->setDefaultSectionSize(86);
     vista_pantalla_->verticalHeader()->setMinimumWidth(200);
+    Esquina_Grilla(vista_pantalla_, SprPantalla);
     auto* izquierda = new QVBoxLayout;
     izquierda->addLayout(formas);
     izquierda->addLayout(arriba, 1);
     izquierda->addWidget(vista_pantalla_, 1);
     auto* cuerpo = new QHBoxLayout(this);
     cuerpo->addLayout(izquierda, 1);
-    cuerpo->addLayout(Columna_Botones(
-        this, {
-                  {"XPButton1", "Exportar a Excel", [this] { XPButton1_Click(); }},
-                  {"XPButton2", "Imprimir", [this] { XPButton2_Click(); }},
-                  {"CmdExportaAlumnos", "Exportar a Excel", [this] { CmdExportaAlumnos_Click(); }},
-                  {"XPButton3", "Imprimir", [this] { XPButton3_Click(); }},
-                  {"XPButton4", "Resultados Curso SEP", [this] { XPButton4_Click(); }},
-                  {"XPButton5", "Excel solo SEP", [this] { XPButton5_Click(); }},
-                  {"XPButton6", "Logros por Curso SEP", [this] { XPButton6_Click(); }},
-                  {"XPButAceptar", "Aceptar", [] {}},
-                  {"XPButCancelar", "Salir", [this] { close(); }},
-              }));
-    resize(1200, 720);
-    Ejecutar_Comando([this] { Form_Load(); });
+    std::vector<DefBoton> botones = {
+        {"XPButton1", "Exportar a Excel", [this] { XPButton1_Click(); }},
+        {"XPButton2", "Imprimir", [this] { XPButton2_Click(); }},
+        {"CmdExportaAlumnos", "Exportar a Excel", [this] { CmdExportaAlumnos_Click(); }},
+        {"XPButton3", "Imprimir", [this] { XPButton3_Click(); }},
+        {"XPButton4", Es_Sep() ? "Exportar a Excel vía SEP" : "Resultados Curso SEP",
+         [this] { XPButton4_Click(); }},
+        {"XPButton5", "Excel solo SEP", [this] { XPButton5_Click(); }},
+        {"XPButton6", "Logros por Curso SEP", [this] { XPButton6_Click(); }},
+        {"XPButAceptar", "Aceptar", [] {}},
+        {"XPButCancelar", "Salir", [this] { close(); }},
+    };
+    // The SEP screen has no button for the course's achievements.
+    if (Es_Sep()) botones.erase(botones.begin() + 6);
+    cuerpo->addLayout(Columna_Botones(this, botones));
+}
+
+// The SEP screen shows the course's four levels per axis, as its report titles them.
+QTableView* FrmHabiliObjet::Vista_Niveles() {
+    const QStringList cabezas = {"", "N°", "%", "N°", "%", "N°", "%", "N°", "%"};
+    for (int c = 1; c <= 9; ++c) SprSep.FijaCelda(0, c, cabezas[c - 1]);
+    SprSep.FijaCelda(
+        0, 1, Modo_Habilidades() ? QStringLiteral("HABILIDAD") : QStringLiteral("EJE TEMATICO"));
+    auto* vista = Vista_Grilla(this, QStringLiteral("SprSep"), SprSep, {});
+    QStringList grupos = {QString()};
+    for (const char* nivel : {"NIVEL BAJO", "NIVEL MEDIO BAJO", "NIVEL MEDIO ALTO", "NIVEL ALTO"})
+        grupos << QString::fromLatin1(nivel) << QString::fromLatin1(nivel);
+    vista->setHorizontalHeader(new CabeceraGrupos(vista, grupos));
+    vista->horizontalHeader()->setDefaultSectionSize(60);
+    vista->setColumnWidth(0, 200);
+    vista->verticalHeader()->hide();
+    return vista;
 }
 
 void FrmHabiliObjet::Form_Load() {
@@ -98,37 +125,9 @@ void FrmHabiliObjet::Form_Load() {
     CboForma->addItems(formas);
     LblForma->setVisible(formas.size() >= 2);
     CboForma->setVisible(formas.size() >= 2);
-    e.Analisis_Valido = true;
-    Recordset rs = e.BaseDatos->OpenRecordset(
-        QStringLiteral("select * from NEW_EJE_TEMATICO Where idprueba = ? and tipo_prueba = ? "
-                       "order by correlativo"),
-        {e.Id_Prueba_Actual, e.Tipo_Prueba_Actual});
-    if (rs.Eof()) {
-        dialogos().MsgBox(
-            QStringLiteral("La prueba ") + e.Nombre_Prueba_Actual + QStringLiteral(" codigo ") +
-                QString::number(e.Id_Prueba_Actual) +
-                (Modo_Habilidades()
-                     ? QStringLiteral(" no tiene asociado las Habilidades, asignelas")
-                     : QStringLiteral(" no tiene asociado Ejes tematicos, asignelos")),
-            vbCritical, QStringLiteral("Ejes tematicos y Habilidades"));
-        e.Analisis_Valido = false;
-        return;
-    }
-    niveles_ = Lee_Niveles();
-    Carga_Respuesta_Prueba(SprRespuestas);
-    Objetivos_Prueba(SprObjetivos);
-    Lee_Nombres_Por_Modo(SprSuperior);
+    if (!Carga_Ejes(formas.value(0))) return;
     setWindowTitle(Titulo_Analisis());
-    if (CboForma->count() > 0) Selecciona_Forma(1);
-    Pareo_Objetivos_Preguntas(SprRespuestas, SprObjetivos, CboForma->currentText(), SprSuperior);
-    // Room for every student group, also those the course grid merges or leaves out.
-    Setea_Grilla_Pantalla(std::max(SprSuperior.MaxRows(), Grupos_Alumno(SprObjetivos)),
-                          SprPantalla);
     Muestra_Cabecera();
-    Agrega_Alummnos(SprRespuestas, SprObjetivos, niveles_, SprPantalla, SprSoloSep, SprSep);
-    Genero_Grafico();
-    if (SprSuperior.MaxRows() == 0) SprPantalla.SetMaxRows(0);
-    Carga_Nueva_Grilla_Sep(SprSuperior, SprPantalla, niveles_, SprSep);
 }
 
 void FrmHabiliObjet::Muestra_Cabecera() {
@@ -136,50 +135,31 @@ void FrmHabiliObjet::Muestra_Cabecera() {
     static_cast<CabeceraGrupos*>(vista_pantalla_->horizontalHeader())->Fija(ejes.mid(1));
 }
 
-void FrmHabiliObjet::Recalcula_Forma() {
-    Lee_Nombres_Por_Modo(SprSuperior);
-    setWindowTitle(Titulo_Analisis());
-    Pareo_Objetivos_Preguntas(SprRespuestas, SprObjetivos, CboForma->currentText(), SprSuperior);
-    Genero_Grafico();
-}
-
 void FrmHabiliObjet::CboForma_Click() {
-    Recalcula_Forma();
+    setWindowTitle(Titulo_Analisis());
+    Recalcula_Forma(CboForma->currentText());
 }
 
 void FrmHabiliObjet::Selecciona_Forma(int k) {
     CboForma->setCurrentIndex(k - 1);
-    Recalcula_Forma();
-}
-
-void FrmHabiliObjet::Genero_Grafico() {
-    if (SprSuperior.MaxRows() == 0) return;
-    QStringList etiquetas;
-    for (int r = 1; r <= SprSuperior.MaxRows(); ++r) etiquetas << QStringLiteral("EJE %1").arg(r);
-    MSChart1.series = {QStringLiteral(" % Buenas"), QStringLiteral("% Malas"),
-                       QStringLiteral("% Omision"), QStringLiteral("% Rendimiento")};
-    MSChart1.ChartData(etiquetas, Datos_Grafico_Ejes(SprSuperior));
-    MSChart1.chartType = GraficoBarras2D;
-    MSChart1.Refresh();
+    CboForma_Click();
 }
 
 FuentesExportacion FrmHabiliObjet::Fuentes() {
-    return {&MSChart1, &SprSuperior};
+    return Fuentes_Propias();
 }
 
 void FrmHabiliObjet::Exporta(Grilla& grilla, int16_t tipo, Grilla& varias, int16_t tipo_varias) {
+    // An empty form list takes the several-forms branch: no file, an empty list.
     const int formas = CboForma->count();
-    if (formas <= 1) return Exporta_Con_Dialogo(grilla, tipo, Fuentes());
+    if (formas == 1) return Exporta_Con_Dialogo(grilla, tipo, Fuentes());
     const QString nombre = Pide_Archivo();
     if (nombre.trimmed().isEmpty()) return;
-    QString lista;
-    for (int k = 1; k <= formas; ++k) {
-        Selecciona_Forma(k);
-        const QString archivo = Archivo_Forma(nombre, k);
-        Exporta_Planilla(archivo, varias, varias, tipo_varias, Fuentes());
-        lista += QStringLiteral("\r") + archivo + QStringLiteral("\r ");
-    }
-    Avisa_Lista(lista);
+    Avisa_Lista(Exporta_Formas(
+        nombre, formas, [this](int k) { Selecciona_Forma(k); },
+        [&](const QString& archivo) {
+            Exporta_Planilla(archivo, varias, varias, tipo_varias, Fuentes());
+        }));
 }
 
 void FrmHabiliObjet::XPButton1_Click() {
@@ -210,18 +190,18 @@ void FrmHabiliObjet::Imprime(const Grilla& grilla, const QString& titulo) {
 // With several forms each form is printed and named as an export would be; no file is written.
 void FrmHabiliObjet::XPButton2_Click() {
     const int formas = CboForma->count();
-    if (formas <= 1) return Imprime(SprSuperior, Titulo_Analisis());
+    if (formas == 1) return Imprime(SprSuperior, Titulo_Analisis());
     const QString nombre = Pide_Archivo();
     if (nombre.trimmed().isEmpty()) return;
     const QString base =
         nombre.contains(QLatin1Char('.')) ? nombre : QStringLiteral("C:\\Impresion_Archivos");
-    QString lista;
-    for (int k = 1; k <= formas; ++k) {
-        Selecciona_Forma(k);
-        Imprime(SprSuperior, Titulo_Analisis());
-        lista += QStringLiteral("\r") + Archivo_Forma(base, k) + QStringLiteral("\r ");
-    }
-    Avisa_Lista(lista);
+    Avisa_Lista(Exporta_Formas(
+        base, formas,
+        [this](int k) {
+            Selecciona_Forma(k);
+            Imprime(SprSuperior, Titulo_Analisis());
+        },
+        [](const QString&) {}));
 }
 
 // The job title is set on the course grid: the students' sheet prints without it.

@@ -51,16 +51,6 @@ const QStringList& Grupos_Frecuencia() {
     return g;
 }
 
-// Pairs of heads from column 1, then the spacer and the test's identity.
-void Cabezas(Grilla& grilla, const QString& cantidad, int pares) {
-    for (int k = 0; k < pares; ++k) {
-        grilla.FijaCelda(0, 2 * k + 1, cantidad);
-        grilla.FijaCelda(0, 2 * k + 2, QStringLiteral("%"));
-    }
-    grilla.FijaCelda(0, 2 * pares + 1, QStringLiteral(" "));
-    grilla.FijaCelda(0, 2 * pares + 2, QStringLiteral("Descripción Prueba"));
-}
-
 }  // namespace
 
 FrmPorPregunta::FrmPorPregunta(QWidget* padre) : QWidget(padre) {
@@ -94,14 +84,6 @@ FrmPorPregunta::FrmPorPregunta(QWidget* padre) : QWidget(padre) {
     Ejecutar_Comando([this] { Form_Load(); });
 }
 
-void FrmPorPregunta::Setea_Grilla() {
-    Cabezas(SprAciertos, kCantidad, 3);
-}
-
-void FrmPorPregunta::Setea_Grilla_Fre() {
-    Cabezas(SprFrecuencia, kCant, 6);
-}
-
 void FrmPorPregunta::Form_Load() {
     if (estado().Id_Prueba_Actual == 0) {
         dialogos().MsgBox(QStringLiteral("UD. no tiene asociado a una prueba para esta carga, "
@@ -124,26 +106,6 @@ void FrmPorPregunta::Form_Load() {
     Agrega_Datos_Prueba(SprFrecuencia);
 }
 
-void FrmPorPregunta::Calcula_Forma(int16_t forma) {
-    // Each fill consumes the answers: they are read again for the second table.
-    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
-    Pongo_Aciertos(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprAciertos);
-    Carga_Grafico_Aciertos(forma, Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta);
-    Pongo_Frecuencias(Spr_Pregunta_Respuesta, Spr_Respuesta_Pauta, SprFrecuencia);
-    Genero_Grafico();
-}
-
-void FrmPorPregunta::Genero_Grafico() {
-    const auto datos = Datos_Grafico_Aciertos(SprAciertos);
-    QStringList preguntas;
-    for (size_t r = 1; r <= datos.size(); ++r) preguntas << QString::number(r);
-    MSChart1.series = {QStringLiteral("Malas"), QStringLiteral("Buenas"),
-                       QStringLiteral("Omitidas")};
-    MSChart1.ChartData(preguntas, datos);
-    MSChart1.chartType = GraficoBarras2D;
-    MSChart1.Refresh();
-}
-
 void FrmPorPregunta::CboFormas_Click() {
     Calcula_Forma(CInt(Val(CboFormas->currentText())));
 }
@@ -162,13 +124,11 @@ void FrmPorPregunta::XPButton1_Click() {
         return;
     }
     // No list entry at all takes this branch too: no file, an empty list.
-    QString lista;
-    for (int k = 1; k <= formas; ++k) {
-        Calcula_Forma(k);
-        const QString archivo = Archivo_Forma(nombre, k);
-        Exporta_Planilla(archivo, SprAciertos, SprFrecuencia, 1, fuentes);
-        lista += QStringLiteral("\r") + archivo + QStringLiteral("\r ");
-    }
+    const QString lista = Exporta_Formas(
+        nombre, formas, [this](int k) { Calcula_Forma(k); },
+        [&](const QString& archivo) {
+            Exporta_Planilla(archivo, SprAciertos, SprFrecuencia, 1, fuentes);
+        });
     dialogos().MsgBox(QStringLiteral(" Datos exportados en ") + lista, vbInformation,
                       QStringLiteral("Exportación Excel Analisis por Pregunta"));
 }

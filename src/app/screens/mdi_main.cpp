@@ -13,6 +13,7 @@
 #include "analysis/screens/frm_analisis_cua.h"
 #include "analysis/screens/frm_habili_objet.h"
 #include "analysis/screens/frm_por_pregunta.h"
+#include "analysis/screens/frm_sep.h"
 #include "app/estado.h"
 #include "app/menu_principal.h"
 #include "app/screens/acerca_de.h"
@@ -76,6 +77,7 @@ MdiMain::MdiMain(QWidget* padre) : QMainWindow(padre), area_(new QMdiArea(this))
     fabricas_[QStringLiteral("FrmAnalisis_Cua")] = [] { return new FrmAnalisis_Cua; };
     fabricas_[QStringLiteral("FrmPorPregunta")] = [] { return new FrmPorPregunta; };
     fabricas_[QStringLiteral("FrmHabiliObjet")] = [] { return new FrmHabiliObjet; };
+    fabricas_[QStringLiteral("FrmSEP")] = [] { return new FrmSEP; };
     fabricas_[QStringLiteral("Frm_Mod_Nota")] = [] { return new Frm_Mod_Nota; };
     fabricas_[QStringLiteral("Frm_Correccion")] = [] { return new Frm_Correccion; };
     fabricas_[QStringLiteral("FrmEvaCorrecion")] = [] { return new FrmEvaCorrecion; };

@@ -35,26 +35,13 @@ QString Valor_Notas(const QString& funcion) {
     return rs[0].isNull() ? QStringLiteral("0") : CStr(rs[0].toDouble());
 }
 
-int16_t Fnc_Trae_Alternativas(const QVariant& forma) {
-    Recordset rs = Base().OpenRecordset(
-        QStringLiteral(" select count (*)  From resp_preguntas_pautas  Where idprueba = ? and "
-                       "forma = ?"),
-        {Id(), forma});
-    return CInt(rs[0].toDouble());
-}
-
 }  // namespace
 
 FrmEvaCorrecion::FrmEvaCorrecion(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FrmEvaCorrecion"));
     setWindowTitle(QStringLiteral("Correción General"));
-    const char* const cabezas[] = {"Idprueba",    "Rut",      "Nombre", "Buenas",
-                                   "Malas",       "Omitidas", "Nulas",  "Puntaje",
-                                   "Rendimiento", "Forma",    "Nota"};
-    for (int c = 0; c < 11; ++c) {
-        SprEvaCorrec.FijaCelda(0, c + 1, QString::fromUtf8(cabezas[c]));
-        Spr_Pauta_Respuesta.FijaCelda(0, c + 1, QString::fromUtf8(cabezas[c]));
-    }
+    Cabezas_Evaluacion(SprEvaCorrec);
+    Cabezas_Evaluacion(Spr_Pauta_Respuesta);
     Construye();
     Ejecutar_Comando([this] { Form_Load(); });
 }
@@ -66,7 +53,7 @@ void FrmEvaCorrecion::Form_Load() {
                           vbOKOnly, kTitulo);
         return;
     }
-    Carga_Alumnos_Pantalla();
+    Carga_Alumnos_Pantalla(SprEvaCorrec);
     if (SprEvaCorrec.MaxRows() == 1 && SprEvaCorrec.Celda(1, 2).isEmpty()) {
         dialogos().MsgBox(QStringLiteral("Esta prueba no tiene alumnos asignados"), vbOKOnly,
                           kTitulo);
@@ -81,40 +68,12 @@ void FrmEvaCorrecion::Form_Load() {
     LblCurso->setText(e.Curso_Actual);
     LblAsignatura->setText(e.Asignatura_Actual);
     LblProfesor->setText(e.Profesor_Actual);
-    Limpia_Grilla_Excel();
+    Spr_Pauta_Respuesta.SetMaxRows(0);
     Carga_Alumnos_desde_Grilla();
     Lbl_Desviacion->setText(CStr(Calculo_Desviacion(SprEvaCorrec, Val(LblPromedio->text()))));
     Txt_Minima_4->setText(QStringLiteral("0"));
     Txt_Maxima_7->setText(QStringLiteral("0"));
     Carga_Porcentajes();
-}
-
-// Ptje_Max_Actual follows the key of each row's form: the last row decides the re-scaling.
-void FrmEvaCorrecion::Carga_Alumnos_Pantalla() {
-    Recordset rs = Base().OpenRecordset(
-        QStringLiteral("select * from ResultadoAlumnos_rj where idprueba = ?"), {Id()});
-    SprEvaCorrec.SetMaxRows(0);
-    SprEvaCorrec.SetMaxRows(std::max(1, rs.RecordCount()));
-    for (int f = 1; !rs.Eof(); rs.MoveNext(), ++f) {
-        const double buenas = rs["Buenas"].toDouble();
-        estado().Ptje_Max_Actual = Fnc_Trae_Alternativas(rs["Forma"]);
-        if (buenas != 0 && estado().Ptje_Max_Actual == 0)
-            throw ErrorEjecucion(QStringLiteral("División por cero"));
-        const double rendimiento =
-            buenas == 0 ? 0 : Round(buenas * 100 / estado().Ptje_Max_Actual, 0);
-        const QString celdas[] = {rs["IdPrueba"].toString(),
-                                  rs["Rut"].toString(),
-                                  Primer_Apellido(rs["Rut"].toString()),
-                                  CStr(buenas),
-                                  rs["Malas"].toString(),
-                                  rs["Omitidas"].toString(),
-                                  rs["Nulas"].toString(),
-                                  CStr(buenas),
-                                  CStr(rendimiento),
-                                  rs["Forma"].toString(),
-                                  CStr(Round(rs["Nota"].toDouble(), 2))};
-        for (int c = 0; c < 11; ++c) SprEvaCorrec.FijaCelda(f, c + 1, celdas[c]);
-    }
 }
 
 void FrmEvaCorrecion::Carga_Alumnos_desde_Grilla() {
@@ -128,15 +87,12 @@ void FrmEvaCorrecion::Carga_Alumnos_desde_Grilla() {
 }
 
 void FrmEvaCorrecion::Carga_Porcentajes() {
-    Recordset rs = Base().OpenRecordset(
-        QStringLiteral("select desde, hasta from NivelesCalificacion where concepto = ?"),
-        {CStr(int(Id()))});
-    for (; !rs.Eof(); rs.MoveNext()) {
-        XminText->setText(CStr(rs[0].toDouble()));
-        XmaxText->setText(CStr(rs[1].toDouble()));
-        Txt_Minima_4->setText(XminText->text());
-        Txt_Maxima_7->setText(XmaxText->text());
-    }
+    QString desde, hasta;
+    if (!Lee_Porcentajes_Nota(desde, hasta)) return;
+    XminText->setText(desde);
+    XmaxText->setText(hasta);
+    Txt_Minima_4->setText(desde);
+    Txt_Maxima_7->setText(hasta);
 }
 
 void FrmEvaCorrecion::Graba_Porcentajes_Nota(int16_t desde, int16_t hasta) {
@@ -242,6 +198,6 @@ void FrmEvaCorrecion::XPButton4_Click() {
     if (r != vbOK) return;
     Elimina_Alumno_Prueba(rut, SprEvaCorrec.Celda(f, 10));  // the form column as it stands
     SprEvaCorrec.Limpia();
-    Carga_Alumnos_Pantalla();
+    Carga_Alumnos_Pantalla(SprEvaCorrec);
     Carga_Alumnos_desde_Grilla();
 }

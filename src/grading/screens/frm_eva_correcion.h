@@ -12,7 +12,6 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class Hoja;
 
 class FrmEvaCorrecion : public QWidget {
     Q_OBJECT
@@ -60,7 +59,6 @@ class FrmEvaCorrecion : public QWidget {
     void Construye();
     QWidget* Panel_Escala();
     void Form_Load();
-    void Carga_Alumnos_Pantalla();
     void Carga_Alumnos_desde_Grilla();
     void Carga_Porcentajes();
     void Graba_Porcentajes_Nota(int16_t desde, int16_t hasta);
@@ -68,7 +66,4 @@ class FrmEvaCorrecion : public QWidget {
     void Mueve_Porcentaje(QLineEdit* campo, int paso, int limite, const QString& mensaje);
     void Muestra_Cifras();
     bool Tabla_Vacia() const;
-    void Limpia_Grilla_Excel();
-    void Exportar_Excel(const QString& ruta);
-    void Agrega_Datos_Prueba(Hoja& hoja, int fila);
 };

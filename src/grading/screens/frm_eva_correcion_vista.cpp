@@ -9,14 +9,13 @@
 #include <QPushButton>
 #include <QTableView>
 
-#include "analysis/exporta_comun.h"
+#include "analysis/exporta_planilla.h"
 #include "app/estado.h"
 #include "grading/enmienda_notas.h"
 #include "grading/screens/frm_eva_correcion.h"
 #include "grading/screens/piezas.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
-#include "platform/planilla.h"
 #include "platform/screens/controles.h"
 #include "platform/screens/impresion.h"
 #include "platform/screens/lista_clave.h"
@@ -154,51 +153,14 @@ void FrmEvaCorrecion::CboAlumnos_Click() {
     }
 }
 
-void FrmEvaCorrecion::Limpia_Grilla_Excel() {
-    Spr_Pauta_Respuesta.SetMaxRows(0);
-}
-
 void FrmEvaCorrecion::XPButton1_Click() {
     const QString titulo = QStringLiteral("Exportacion Excel");
     const QString ruta = dialogos().GuardarArchivo(
         titulo, QStringLiteral("Libro de Excel (*.xlsx)"), QStringLiteral("Correccion.xlsx"));
     if (ruta.trimmed().isEmpty()) return;
-    Exportar_Excel(ruta);
+    Exportar_Excel_Correccion(ruta, SprEvaCorrec, Spr_Pauta_Respuesta, Txt_Minima_4->text(),
+                              Txt_Maxima_7->text());
     dialogos().MsgBox(ruta + QStringLiteral(" Datos exportados en "), vbInformation, titulo);
-}
-
-// The table under its heading cells, copied by the rule on "Spr_", the test's data below.
-void FrmEvaCorrecion::Exportar_Excel(const QString& ruta) {
-    Limpia_Grilla_Excel();
-    Spr_Pauta_Respuesta.SetMaxRows(SprEvaCorrec.MaxRows());
-    for (int f = 1; f <= SprEvaCorrec.MaxRows(); ++f)
-        for (int c = 1; c <= SprEvaCorrec.MaxCols(); ++c)
-            Spr_Pauta_Respuesta.FijaCelda(f, c, SprEvaCorrec.Celda(f, c));
-    Libro libro;
-    Hoja& hoja = libro.Sheets(1);
-    hoja.Name = QStringLiteral("Evaluacion de Correccion");
-    hoja.Range(QStringLiteral("A:A")).ColumnWidth(23);
-    hoja.Range(QStringLiteral("B:B")).ColumnWidth(45);
-    hoja.Range(QStringLiteral("C:CX")).ColumnWidth(2);
-    for (int forma = 1; forma <= estado().Numero_Formas_Actual; ++forma)
-        for (int c = 1; c <= Spr_Pauta_Respuesta.MaxCols(); ++c) Celda_Encabezado(hoja, 1, c);
-    for (int f = 0; f <= Spr_Pauta_Respuesta.MaxRows(); ++f)
-        for (int c = 1; c <= Spr_Pauta_Respuesta.MaxCols(); ++c)
-            if (const QString t = Spr_Pauta_Respuesta.Celda(f, c); !Marcada(t))
-                hoja.Cells(f + 1, c).Value(t);
-    Agrega_Datos_Prueba(hoja, Spr_Pauta_Respuesta.MaxRows() + 3);
-    libro.Close(true, ruta);
-}
-
-void FrmEvaCorrecion::Agrega_Datos_Prueba(Hoja& hoja, int fila) {
-    const QString lineas[] = {QStringLiteral("Prueba: ") + LblPrueba->text(),
-                              QStringLiteral("Asignatura: ") + LblAsignatura->text(),
-                              QStringLiteral("Curso: ") + LblCurso->text(),
-                              QStringLiteral("Profesor: ") + LblProfesor->text(),
-                              QStringLiteral("Fecha: ") + LblFecha->text(),
-                              QStringLiteral("Nota Ajuste 4: ") + Txt_Minima_4->text(),
-                              QStringLiteral("Nota Ajuste 7: ") + Txt_Maxima_7->text()};
-    for (const QString& l : lineas) hoja.Cells(fila++, 1).Value(l);
 }
 
 void FrmEvaCorrecion::XPButton2_Click() {

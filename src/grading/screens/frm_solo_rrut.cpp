@@ -35,8 +35,8 @@ Frm_SoloRrut::Frm_SoloRrut(const QString& curso, QWidget* padre)
 
 void Frm_SoloRrut::Form_Load() {
     Recordset rs = estado().BaseDatos->OpenRecordset(
-        QStringLiteral(
-            "SELECT RUT, PRIMERAPELLIDO FROM ALUMNOS  WHERE CURSO = ? order by PRIMERAPELLIDO"),
+        QStringLiteral("SELECT RUT, PRIMERAPELLIDO FROM ALUMNOS  WHERE CURSO = ? order by "
+                       "PRIMERAPELLIDO collate ESPANOL"),
         {curso_});
     Spr_Alumnos.SetMaxRows(rs.RecordCount());
     for (int fila = 1; !rs.Eof(); rs.MoveNext(), ++fila) {

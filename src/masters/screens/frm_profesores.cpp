@@ -7,9 +7,9 @@
 
 #include "app/estado.h"
 #include "masters/carga_planilla.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
+#include "platform/screens/controles.h"
 
 namespace {
 
@@ -59,8 +59,8 @@ FrmProfesores::FrmProfesores(QWidget* padre) : QWidget(padre) {
 
 void FrmProfesores::Carga_Profesores() {
     SprProfesores.SetMaxRows(0);
-    Recordset rs =
-        base().OpenRecordset(QStringLiteral("select * from Profesores order by nombreprofesor"));
+    Recordset rs = base().OpenRecordset(
+        QStringLiteral("select * from Profesores order by nombreprofesor collate ESPANOL"));
     SprProfesores.SetMaxRows(rs.RecordCount());
     for (int fila = 1; !rs.Eof(); rs.MoveNext(), ++fila) {
         SprProfesores.FijaCelda(fila, 1, rs[0].toString());

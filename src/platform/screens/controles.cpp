@@ -1,15 +1,41 @@
 // Small pieces the list and settings screens are built from.
 #include "platform/screens/controles.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionHeader>
 
 #include "platform/dialogos.h"
 #include "platform/grilla.h"
 #include "platform/screens/grilla_modelo.h"
 
 namespace {
+
+// Paints the grid's corner head (row 0, column 0) on the view's corner button.
+class PintaEsquina : public QObject {
+  public:
+    PintaEsquina(QAbstractButton* boton, const Grilla& grilla) : QObject(boton), grilla_(grilla) {}
+
+  protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() != QEvent::Paint) return false;
+        auto* boton = static_cast<QAbstractButton*>(objeto);
+        QStyleOptionHeader opcion;
+        opcion.initFrom(boton);
+        opcion.rect = boton->rect();
+        opcion.text = grilla_.Celda(0, 0);
+        opcion.textAlignment = Qt::AlignCenter;
+        QPainter p(boton);
+        boton->style()->drawControl(QStyle::CE_Header, &opcion, &p, boton);
+        return true;
+    }
+
+  private:
+    const Grilla& grilla_;
+};
 
 class FiltroTeclas : public QObject {
   public:
@@ -93,10 +119,16 @@ QTableView* Vista_Grilla(QWidget* padre, const QString& nombre, Grilla& grilla,
     vista->setSelectionMode(QAbstractItemView::SingleSelection);
     vista->setEditTriggers(QAbstractItemView::NoEditTriggers);
     vista->verticalHeader()->setDefaultSectionSize(22);
-    QObject::connect(vista, &QTableView::clicked, padre, [al_pulsar](const QModelIndex& i) {
-        Ejecutar_Comando([&] { al_pulsar(i.row() + 1); });
-    });
+    if (al_pulsar)
+        QObject::connect(vista, &QTableView::clicked, padre, [al_pulsar](const QModelIndex& i) {
+            Ejecutar_Comando([&] { al_pulsar(i.row() + 1); });
+        });
     return vista;
+}
+
+void Esquina_Grilla(QTableView* vista, const Grilla& grilla) {
+    for (auto* boton : vista->findChildren<QAbstractButton*>())
+        if (boton->parent() == vista) boton->installEventFilter(new PintaEsquina(boton, grilla));
 }
 
 QVBoxLayout* Columna_Botones(QWidget* padre, const std::vector<DefBoton>& botones) {

@@ -37,6 +37,9 @@ void Mayusculas(QLineEdit* caja);
 // Runs `accion` when the focus leaves the box.
 void Al_Salir(QLineEdit* caja, std::function<void()> accion);
 
-// A view of the grid; a click on a data row (from 1) calls `al_pulsar`.
+// A view of the grid; a click on a data row (from 1) calls `al_pulsar`, when there is one.
 QTableView* Vista_Grilla(QWidget* padre, const QString& nombre, Grilla& grilla,
                          std::function<void(int)> al_pulsar);
+
+// Shows the grid's corner head (row 0, column 0, such as "ALUMNOS") in the view's corner.
+void Esquina_Grilla(QTableView* vista, const Grilla& grilla);

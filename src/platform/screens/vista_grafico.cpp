@@ -5,7 +5,6 @@
 #include <QBarSeries>
 #include <QBarSet>
 #include <QLineSeries>
-#include <QPainter>
 #include <QValueAxis>
 #include <algorithm>
 #include <cmath>
@@ -27,6 +26,7 @@ void Agrega_Barras(QChart* chart, const Grafico& g, size_t series) {
     auto* barras = new QBarSeries;
     for (size_t s = 0; s < series; ++s) {
         auto* conjunto = new QBarSet(Serie(g, s));
+        conjunto->setColor(Color_Serie(s));
         for (const auto& fila : g.datos) *conjunto << (s < fila.size() ? fila[s] : 0);
         barras->append(conjunto);
     }
@@ -37,20 +37,11 @@ void Agrega_Lineas(QChart* chart, const Grafico& g, size_t series) {
     for (size_t s = 0; s < series; ++s) {
         auto* linea = new QLineSeries;
         linea->setName(Serie(g, s));
+        linea->setColor(Color_Serie(s));
         for (size_t i = 0; i < g.datos.size(); ++i)
             linea->append(static_cast<double>(i), s < g.datos[i].size() ? g.datos[i][s] : 0);
         chart->addSeries(linea);
     }
-}
-
-QImage Dibuja(const Grafico& g, QSize tamano) {
-    QChartView vista(Arma_Grafico(g));
-    vista.resize(tamano);
-    QImage imagen(tamano, QImage::Format_ARGB32);
-    imagen.fill(Qt::white);
-    QPainter pintor(&imagen);
-    vista.render(&pintor);
-    return imagen;
 }
 
 }  // namespace
@@ -88,7 +79,6 @@ QChart* Arma_Grafico(const Grafico& g) {
 
 VistaGrafico::VistaGrafico(Grafico& grafico, QWidget* padre)
     : QChartView(padre), grafico_(grafico) {
-    Instala_Dibujo_Graficos(Dibuja);
     setRenderHint(QPainter::Antialiasing);
     setChart(Arma_Grafico(grafico_));
     grafico_.al_refrescar = [this] {

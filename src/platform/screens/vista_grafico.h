@@ -1,6 +1,5 @@
 // Shows a Grafico with Qt Charts: bars for codes 0 and 1 (Qt Charts draws no depth, so the
-// three-dimensional bars are flat too), lines for code 3. The first view installs the drawing
-// that gives charts their picture for the spreadsheets.
+// three-dimensional bars are flat too), lines for code 3, in the colours of its picture.
 #pragma once
 
 #include <QChartView>
