@@ -100,6 +100,29 @@ TEST_F(ZortaCorregir, PrintsEveryBoxAndASummary) {
     EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), 10);
 }
 
+// Answers stored by a run that stopped before grading them are graded by the next
+// `zorta corregir`, even with nothing left in the folder, and it says so.
+TEST_F(ZortaCorregir, GradesStoredAnswersThatHaveNoResult) {
+    const QString rut = Rut_Con_Digito(12345678);
+    Ejecuta("insert into ALUMNOS values (?, 'Alumno', '1A', '')", {rut});
+    for (int q = 0; q < 10; ++q)
+        Ejecuta(
+            "insert into respuesta_alumnos_por_rut (idprueba, pregunta, forma, alternativa, "
+            "rut_alumno) values (7, ?, 1, ?, ?)",
+            {q + 1, q < 8 ? kLetras[q] - 'A' + 1 : 6, rut});
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0) << salida.toStdString();
+    EXPECT_TRUE(
+        salida.contains("Se calcularon las notas de 1 alumnos que tenían respuestas "
+                        "grabadas y no tenían nota"))
+        << salida.toStdString();
+    EXPECT_EQ(
+        Valor("select buenas || '/' || omitidas from ResultadoAlumnos_rj where rut = ?", {rut})
+            .toString(),
+        "8/2");
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0);
+    EXPECT_FALSE(salida.contains("Se calcularon las notas")) << "only once";
+}
+
 TEST_F(ZortaCorregir, ArgumentsAndExitStatus) {
     EXPECT_EQ(Termina(Zorta({"--help"})), 0);
     EXPECT_TRUE(salida.startsWith("Uso: zorta corregir --prueba N"));
