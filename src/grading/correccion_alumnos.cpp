@@ -164,9 +164,12 @@ void Resultados_Alumnos_Pruebas(Corrector& c) {
 }
 
 int Completa_Correccion(Corrector& c) {
+    // Only forms with a key: a sheet of form 99 waits for its form, as after any run.
     const QString sin_nota = QStringLiteral(
         " from respuesta_alumnos_por_rut r where idprueba = ? and not exists (select 1 from "
-        "ResultadoAlumnos_rj n where n.idprueba = r.idprueba and n.rut = r.rut_alumno)");
+        "ResultadoAlumnos_rj n where n.idprueba = r.idprueba and n.rut = r.rut_alumno) and "
+        "exists (select 1 from Resp_preguntas_pautas p where p.idprueba = r.idprueba and "
+        "p.forma = r.forma)");
     QMap<int, QStringList> por_forma;
     Recordset rs = Base().OpenRecordset(
         QStringLiteral(" select distinct forma, rut_alumno") + sin_nota, {Id()});

@@ -5,6 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
+#include <cstdio>
+#include <random>
 
 #include "app/estado.h"
 #include "platform/base_datos.h"
@@ -63,6 +66,9 @@ class ZortaCorregir : public BaseArrancada {
         EXPECT_TRUE(p->waitForFinished(120000));
         salida = QString::fromUtf8(p->readAllStandardOutput());
         return p->exitCode();
+    }
+    int Guardados() {
+        return Valor("select count(distinct rut_alumno) from respuesta_alumnos_por_rut").toInt();
     }
     QStringList En_Carpeta() {
         return QDir(escaneo).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
@@ -135,26 +141,43 @@ TEST_F(ZortaCorregir, ArgumentsAndExitStatus) {
         "[Error de ejecución] No se encuentra el archivo de configuración del escáner"));
 }
 
-TEST_F(ZortaCorregir, KilledHalfwayAndRunAgainStoresEverySheetOnce) {
-    constexpr int kHojas = 100;
-    for (int n = 0; n < kHojas; ++n) Alumno_Con_Hoja(n);
-    QProcess* primera = Zorta({"--prueba", "7"});
-    QByteArray visto;
-    while (!visto.contains("Hoja 20 de") && primera->waitForReadyRead(60000))
-        visto += primera->readAllStandardOutput();
-    primera->kill();
-    primera->waitForFinished();
-    const int quedan = En_Carpeta().size();
-    EXPECT_GT(quedan, 0) << "killed before the end";
-    EXPECT_LT(quedan, kHojas);
-
+// Kill soak: `zorta corregir` killed at many moments of its run, now at a random sheet, now
+// just after opening the last one, when it stores and grades; then run to its end. Every sheet
+// is stored once and every student graded. A long soak: ZORTA_SOAK_HOJAS (200 by default) and
+// ZORTA_SOAK_MUERTES (16).
+TEST_F(ZortaCorregir, KillSoakLosesNoSheetAndNoGrade) {
+    const int hojas = qEnvironmentVariableIntValue("ZORTA_SOAK_HOJAS") ?: 200;
+    const int muertes = qEnvironmentVariableIntValue("ZORTA_SOAK_MUERTES") ?: 16;
+    for (int n = 0; n < hojas; ++n) Alumno_Con_Hoja(n);
+    std::mt19937 azar(20261125);
+    int al_corregir = 0;  // kills after the last sheet was stored and before it was graded
+    for (int i = 0; i < muertes && !En_Carpeta().isEmpty(); ++i) {
+        const int quedan = int(En_Carpeta().size());
+        const bool ultima = i % 3 == 2;
+        const int hoja = ultima ? quedan : int(azar() % quedan) + 1;
+        QProcess* p = Zorta({"--prueba", "7"});
+        QByteArray visto;
+        const QByteArray marca = "Hoja " + QByteArray::number(hoja) + " de ";
+        while (!visto.contains(marca) && p->waitForReadyRead(60000))
+            visto += p->readAllStandardOutput();
+        // The last sheet's kill waits for its commit, and lands while the run grades.
+        for (int espera = 0; ultima && espera < 5000 && Guardados() < hojas; ++espera)
+            QThread::msleep(1);
+        QThread::msleep(azar() % (ultima ? 4 : 25));
+        p->kill();
+        p->waitForFinished();
+        if (Guardados() == hojas &&
+            Valor("select count(*) from ResultadoAlumnos_rj").toInt() < hojas)
+            ++al_corregir;
+    }
+    std::printf("%d hojas, %d muertes, %d entre la última hoja y las notas\n", hojas, muertes,
+                al_corregir);
     EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0) << salida.toStdString();
     EXPECT_TRUE(En_Carpeta().isEmpty());
-    EXPECT_EQ(Valor("select count(distinct rut_alumno) from respuesta_alumnos_por_rut").toInt(),
-              kHojas);
-    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), kHojas * 10)
+    EXPECT_EQ(Guardados(), hojas);
+    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), hojas * 10)
         << "none twice";
-    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), kHojas);
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), hojas);
     EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj where Buenas + Malas <> 10").toInt(),
               0);
 }
