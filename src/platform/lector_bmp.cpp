@@ -45,7 +45,8 @@ struct Canal {
             Falla(QStringLiteral("Las máscaras de color del mapa de bits no son válidas"));
     }
     uint8_t operator()(uint32_t pixel) const {
-        return maximo ? static_cast<uint8_t>(((pixel & mascara) >> corrimiento) * 255 / maximo) : 0;
+        const uint64_t v = (pixel & mascara) >> corrimiento;
+        return maximo ? static_cast<uint8_t>(v * 255 / maximo) : 0;
     }
 };
 

@@ -167,6 +167,7 @@ QString Ruta_Primera_Hoja(const Archivo_Zip& zip) {
                 if (a.name() == u"id") id = a.value().toString();
     });
     Parte rel(zip, QStringLiteral("xl/_rels/workbook.xml.rels"));
+    if (!rel.existe()) Dano(QStringLiteral("falta la parte xl/_rels/workbook.xml.rels"));
     Recorre(rel, [&] {
         if (destino.isEmpty() && !id.isEmpty() && rel.x.attributes().value("Id") == id)
             destino = rel.x.attributes().value("Target").toString();
