@@ -51,7 +51,7 @@ QByteArray Lee_Archivo(const QString& ruta) {
     if (st.st_size > kTamanoMaximo)
         Falla(QStringLiteral("El archivo de %1 bytes es demasiado grande para ser una hoja")
                   .arg(qint64(st.st_size)));
-    QByteArray datos = f.readAll();
+    QByteArray datos = f.read(st.st_size);
     if (f.error() != QFileDevice::NoError) Falla(QStringLiteral("El archivo no se puede leer"));
     return datos;
 }

@@ -171,7 +171,9 @@ Bitmap Reserva(const Cabecera& c, int bits) {
                FreeImage_Unload);
     if (!dib)
         Falla(QStringLiteral("No hay memoria para una imagen de %1 x %2").arg(c.ancho).arg(c.alto));
-    std::memset(FreeImage_GetBits(dib.get()), 0, FreeImage_GetPitch(dib.get()) * c.alto);
+    // What a compressed bitmap passes over stays index 0; other rows are written whole.
+    if (c.compresion == kRle8 || c.compresion == kRle4)
+        std::memset(FreeImage_GetBits(dib.get()), 0, FreeImage_GetPitch(dib.get()) * c.alto);
     return dib;
 }
 
