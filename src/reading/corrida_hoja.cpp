@@ -248,8 +248,7 @@ bool CorridaLectura::Hay_Preguntas_Abiertas() {
 }
 
 // Both kinds of run store the sheet as a student's; a refused replacement then deletes the
-// rows the operator meant to keep, as the system does.
-// True when the sheet's rows stay.
+// rows the operator meant to keep, as the system does. True when the sheet's rows stay.
 bool CorridaLectura::Graba_Alumno() {
     if (estado().Agrega_Actual) c.Lst_Recorreccion << c.TxtRut;
     Graba_Prueba_Alumnos(c);
