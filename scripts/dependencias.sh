@@ -5,7 +5,8 @@
 set -euo pipefail
 paquetes=(cmake ninja-build g++ pkg-config qt6-base-dev libqt6sql6-sqlite libsqlite3-dev qt6-charts-dev libqt6opengl6-dev qt6-translations-l10n
           libxlsxwriter-dev libzip-dev libfreexl-dev libfreeimage-dev libgtest-dev libbenchmark-dev libgl-dev
-          xvfb xauth x11-apps xdotool imagemagick openbox fonts-dejavu-core locales)
+          xvfb xauth x11-apps xdotool imagemagick openbox fonts-dejavu-core locales
+          clang)  # scripts/fuzz.sh: the sanitizer build and the fuzz harnesses
 sudo=""
 [ "$(id -u)" -ne 0 ] && sudo="sudo"
 faltan=()

@@ -9,6 +9,8 @@
 #include "app/estado.h"
 #include "app/inicio.h"
 #include "cli/cli.h"
+#include "grading/correccion_alumnos.h"
+#include "grading/escala_notas.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos_consola.h"
 #include "platform/numeros.h"
@@ -38,6 +40,8 @@ const char* const kAyuda =
     "  - los demás: Aceptar, o Cancelar/No cuando el mensaje pregunta.\n"
     "Las hojas que la corrida quita sin grabarlas (fallas de lectura, rut de un alumno que no\n"
     "existe) no se borran: se mueven a la subcarpeta no_guardadas de la carpeta de escaneo.\n"
+    "Si la prueba tiene alumnos con respuestas grabadas y sin nota (una corrida interrumpida\n"
+    "antes de calcular las notas), al final calcula también sus notas y lo dice.\n"
     "Al terminar escribe cuántas hojas se leyeron, se guardaron y fallaron.\n\n"
     "Estado de salida: 0 si la corrida recorrió toda la carpeta, 1 si se detuvo antes (un\n"
     "mensaje que termina la corrida o un error), 2 si los argumentos no son válidos.\n";
@@ -121,6 +125,19 @@ bool Elige_Prueba(const Argumentos& a) {
     return true;
 }
 
+// Students stored by a run that stopped before its grading get their grades now.
+void Completa_Notas(Corrector& c, QTextStream& salida) {
+    Transaccion t(*estado().BaseDatos);
+    Calcula_Notas_Tabla(c.Notas);
+    const int corregidos = Completa_Correccion(c);
+    t.Confirma();
+    if (corregidos > 0)
+        salida << "Se calcularon las notas de " << corregidos
+               << " alumnos que tenían respuestas grabadas y no tenían nota (una corrida "
+                  "interrumpida)."
+               << Qt::endl;
+}
+
 }  // namespace
 
 int Cmd_Corregir(const QStringList& args) {
@@ -148,6 +165,7 @@ int Cmd_Corregir(const QStringList& args) {
                                         .filePath(QStringLiteral("no_guardadas"));
         corrida.CmdCorregir_Pruebas();
         completa = corrida.resumen.completa;
+        if (completa && !a.pauta) Completa_Notas(corrida.c, salida);
     });
     const ResumenCorrida& r = corrida.resumen;
     salida << "Hojas leídas: " << r.leidas << ", guardadas: " << r.guardadas

@@ -1,6 +1,8 @@
 // Correcting a test's stored sheets.
 #include "grading/correccion_alumnos.h"
 
+#include <QMap>
+
 #include "app/estado.h"
 #include "grading/corrector.h"
 #include "platform/base_datos.h"
@@ -9,37 +11,47 @@
 
 namespace {
 
-BaseDatos& Base() { return *estado().BaseDatos; }
-int16_t Id() { return estado().Id_Prueba_Actual; }
+BaseDatos& Base() {
+    return *estado().BaseDatos;
+}
+int16_t Id() {
+    return estado().Id_Prueba_Actual;
+}
 
 struct Conteo {
     int buenas = 0, malas = 0, omitidas = 0, nulas = 0;
 };
 
 // Who writes a student's result: the run's full row, or the test list's grade repair.
-using Grabador = void (*)(Corrector&, const QString&, const Conteo&, int total, const QVariant& forma);
+using Grabador = void (*)(Corrector&, const QString&, const Conteo&, int total,
+                          const QVariant& forma);
 
-void Graba_Fila(Corrector& c, const QString& rut, const Conteo& n, int total, const QVariant& forma) {
+void Graba_Fila(Corrector& c, const QString& rut, const Conteo& n, int total,
+                const QVariant& forma) {
     Grabar_Resultados_Alumnos(c, rut, n.buenas, n.malas, n.omitidas, n.nulas, total, forma);
 }
 
-void Graba_Nota_Proporcional(Corrector&, const QString&, const Conteo& n, int total, const QVariant& forma) {
+void Graba_Nota_Proporcional(Corrector&, const QString&, const Conteo& n, int total,
+                             const QVariant& forma) {
     if (total == 0) throw ErrorEjecucion(QStringLiteral("División por cero"));
-    Base().Execute(QStringLiteral("update ResultadoAlumnos_rj set  nota = ? where idprueba = ? and forma = ? and rut = ?"),
+    Base().Execute(QStringLiteral("update ResultadoAlumnos_rj set  nota = ? where idprueba = ? and "
+                                  "forma = ? and rut = ?"),
                    {Round(n.buenas * 7.0 / total, 1), Id(), forma, estado().Rut_Actual});
 }
 
 void Carga_Pauta(Corrector& c, const QVariant& forma) {
     Recordset rs = Base().OpenRecordset(
-        QStringLiteral(" select pregunta, alternativa  from Resp_preguntas_pautas where idprueba = ? and forma = ? "
+        QStringLiteral(" select pregunta, alternativa  from Resp_preguntas_pautas where idprueba = "
+                       "? and forma = ? "
                        "order by pregunta "),
         {Id(), forma});
     Llena_Tabla(c.SprRespuesta_Correctas, rs);
 }
 
 void Carga_Respuestas(Corrector& c, const QString& rut, const QVariant& forma, bool ordenadas) {
-    QString sql = QStringLiteral(" select pregunta, alternativa from respuesta_alumnos_por_rut "
-                                 "where idprueba = ? and forma = ? and Rut_Alumno = ?");
+    QString sql = QStringLiteral(
+        " select pregunta, alternativa from respuesta_alumnos_por_rut "
+        "where idprueba = ? and forma = ? and Rut_Alumno = ?");
     if (ordenadas) sql += QStringLiteral(" order by pregunta");
     Recordset rs = Base().OpenRecordset(sql, {Id(), forma, rut});
     Llena_Tabla(c.Spr_Respuestas, rs);
@@ -75,7 +87,8 @@ void Parcial(Corrector& c) {
         Carga_Respuestas(c, rut, c.TxtForma, false);
         c.TxtRut = rut;
         if (c.Spr_Respuestas.MaxRows() == 0 || c.SprRespuesta_Correctas.MaxRows() == 0) {
-            Grabar_Resultados_Alumnos(c, c.TxtRut, 0, 0, 0, 0, c.SprRespuesta_Correctas.MaxRows(), 99);
+            Grabar_Resultados_Alumnos(c, c.TxtRut, 0, 0, 0, 0, c.SprRespuesta_Correctas.MaxRows(),
+                                      99);
         } else {
             estado().Rut_Actual = c.TxtRut;
             compare(c, c.TxtForma, Graba_Fila);
@@ -90,7 +103,8 @@ void Llena_List1(Corrector& c, const QVariant& forma) {
         QStringLiteral(" select distinct rut_alumno , forma from respuesta_alumnos_por_rut "
                        "where idprueba = ? and forma = ? order by  forma"),
         {Id(), forma});
-    for (; !rs.Eof(); rs.MoveNext()) c.List1 << rs[0].toString() + QStringLiteral(" @") + rs[1].toString();
+    for (; !rs.Eof(); rs.MoveNext())
+        c.List1 << rs[0].toString() + QStringLiteral(" @") + rs[1].toString();
 }
 
 // Without students of the form, the students of the last sheet's first form are taken: the way
@@ -99,8 +113,9 @@ void Llena_List1(Corrector& c, const QVariant& forma) {
 void Llena_List1_Con_Ultima_Hoja(Corrector& c) {
     if (!c.List1.isEmpty()) return;
     Recordset rs = Base().OpenRecordset(
-        QStringLiteral(" select forma from respuesta_alumnos_por_rut where idprueba = ? and rut_alumno = ? "
-                       "order by  forma"),
+        QStringLiteral(
+            " select forma from respuesta_alumnos_por_rut where idprueba = ? and rut_alumno = ? "
+            "order by  forma"),
         {Id(), c.TxtRut});
     if (!rs.Eof()) Llena_List1(c, rs[0]);
 }
@@ -148,15 +163,50 @@ void Resultados_Alumnos_Pruebas(Corrector& c) {
     General(c, Graba_Fila, false);
 }
 
-void Resultados_Alumnos_Pruebas_Reparacion(Corrector& c) { General(c, Graba_Nota_Proporcional, true); }
+int Completa_Correccion(Corrector& c) {
+    // Only forms with a key: a sheet of form 99 waits for its form, as after any run.
+    const QString sin_nota = QStringLiteral(
+        " from respuesta_alumnos_por_rut r where idprueba = ? and not exists (select 1 from "
+        "ResultadoAlumnos_rj n where n.idprueba = r.idprueba and n.rut = r.rut_alumno) and "
+        "exists (select 1 from Resp_preguntas_pautas p where p.idprueba = r.idprueba and "
+        "p.forma = r.forma)");
+    QMap<int, QStringList> por_forma;
+    Recordset rs = Base().OpenRecordset(
+        QStringLiteral(" select distinct forma, rut_alumno") + sin_nota, {Id()});
+    for (; !rs.Eof(); rs.MoveNext()) por_forma[rs[0].toInt()] << rs[1].toString();
+    rs.Close();
+    for (auto it = por_forma.cbegin(); it != por_forma.cend(); ++it) {
+        c.TxtForma = QString::number(it.key());
+        c.Lst_Recorreccion = it.value();
+        Parcial(c);
+    }
+    c.Lst_Recorreccion.clear();
+    const int quedan =
+        Base()
+            .OpenRecordset(QStringLiteral(" select count(distinct rut_alumno)") + sin_nota,
+                           {Id()})[0]
+            .toInt();
+    int total = 0;
+    for (const QStringList& ruts : por_forma) total += int(ruts.size());
+    return total - quedan;
+}
 
-void Grabar_Resultados_Alumnos(Corrector& c, const QString& rut, int buenas, int malas, int omitidas, int nulas,
-                               int total, const QVariant& forma) {
-    if (!Base().OpenRecordset(QStringLiteral(" select * from ResultadoAlumnos_rj where rut = ? and idprueba = ?"),
-                              {rut.trimmed(), Id()})
+void Resultados_Alumnos_Pruebas_Reparacion(Corrector& c) {
+    General(c, Graba_Nota_Proporcional, true);
+}
+
+void Grabar_Resultados_Alumnos(Corrector& c, const QString& rut, int buenas, int malas,
+                               int omitidas, int nulas, int total, const QVariant& forma) {
+    if (!Base()
+             .OpenRecordset(
+                 QStringLiteral(
+                     " select * from ResultadoAlumnos_rj where rut = ? and idprueba = ?"),
+                 {rut.trimmed(), Id()})
              .Eof())
-        Base().Execute(QStringLiteral("delete from ResultadoAlumnos_rj where idprueba = ? and rut = ? and forma  = ?"),
-                       {Id(), rut, forma});
+        Base().Execute(
+            QStringLiteral(
+                "delete from ResultadoAlumnos_rj where idprueba = ? and rut = ? and forma  = ?"),
+            {Id(), rut, forma});
     // Porcentaje is a whole-number column: the quotient is rounded as the column stores it.
     const double porcentaje = buenas == 0 ? 0.0 : buenas * 100.0 / total;
     Recordset tabla = Base().OpenTable(QStringLiteral("ResultadoAlumnos_rj"));

@@ -11,9 +11,14 @@ struct Corrector;
 // (Agrega_Actual), general otherwise. Needs Calcula_Notas_Tabla run before it.
 void Resultados_Alumnos_Pruebas(Corrector& c);
 
+// Students of the test with stored answers of a form that has a key, and no result row, left
+// so by a run stopped before its grading: each corrected as a sheet added to the correction,
+// against the key of its own form. Needs Calcula_Notas_Tabla run before it. The number of students that got a result.
+int Completa_Correccion(Corrector& c);
+
 // Writes one student's result row, replacing an earlier one of the same form.
-void Grabar_Resultados_Alumnos(Corrector& c, const QString& rut, int buenas, int malas, int omitidas,
-                               int nulas, int total, const QVariant& forma);
+void Grabar_Resultados_Alumnos(Corrector& c, const QString& rut, int buenas, int malas,
+                               int omitidas, int nulas, int total, const QVariant& forma);
 
 // The test list's repair of zero grades: the general mode, stopping at the first student
 // without answers, and a proportional grade Round(buenas * 7 / total, 1).

@@ -10,10 +10,10 @@ namespace {
 constexpr int kMaximoFilas = 10000;
 
 void Rut_Incorrecto(int fila, const QString& rut) {
-    dialogos().MsgBox(
-        Lineas({QStringLiteral("Rut leido desde planilla no es correcto "),
-                QStringLiteral("Fila : ") + QString::number(fila), QStringLiteral("Rut :") + rut}),
-        vbCritical, QStringLiteral("Aceptar"));
+    dialogos().MsgBox(Lineas({QStringLiteral("Rut leido desde planilla no es correcto "),
+                              QStringLiteral("Fila : ") + QString::number(fila),
+                              QStringLiteral("Rut :") + Texto_Corto(rut)}),
+                      vbCritical, QStringLiteral("Aceptar"));
 }
 
 // Courses get level 0 and a running number from 1, in the order of the query.
@@ -35,7 +35,7 @@ CargaAlumnos Carga_Alumnos_Planilla(const QString& ruta) {
     SegundaBase base;
     base->Execute(QStringLiteral(" delete from ALUMNOS "));
     base->Execute(QStringLiteral(" delete from cursos "));
-    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta);
+    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta, kMaximoFilas);
     for (; carga.fila <= kMaximoFilas; ++carga.fila) {
         QString rut = hoja.Celda(carga.fila, QStringLiteral("A"));
         if (rut.trimmed().isEmpty()) break;

@@ -49,7 +49,7 @@ int Reemplaza_Con_Planilla(const QString& ruta, const QString& borra, int limite
                            const InsertaFila& inserta) {
     SegundaBase base;
     base->Execute(borra);
-    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta);
+    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta, limite);
     int fila = 1;
     for (; fila <= limite && !hoja.Celda(fila, QStringLiteral("A")).isEmpty(); ++fila)
         inserta(*base, hoja, fila);
@@ -57,9 +57,9 @@ int Reemplaza_Con_Planilla(const QString& ruta, const QString& borra, int limite
 }
 
 QString Elige_Planilla_Xlsx(const QString& titulo) {
-    return Elige_Planilla(
-        {.filtro = QStringLiteral(" *.xlsx|*.xlsx"),
-         .titulo = titulo,
-         .sin_archivo = QStringLiteral("No se ha seleccionado ningún archivo"),
-         .sin_extension = QStringLiteral("El archivo seleccionado no es extensión .XLSX, verifique")});
+    return Elige_Planilla({.filtro = QStringLiteral(" *.xlsx|*.xlsx"),
+                           .titulo = titulo,
+                           .sin_archivo = QStringLiteral("No se ha seleccionado ningún archivo"),
+                           .sin_extension = QStringLiteral(
+                               "El archivo seleccionado no es extensión .XLSX, verifique")});
 }

@@ -1,8 +1,11 @@
-// Opening a bitmap with FreeImage. The header is checked first, so a bad file gives a reason
-// in Spanish instead of reaching the loader.
+// A sheet's bitmap: the file read whole (regular files only), decoded by our own reader into a
+// FreeImage bitmap, and written back with FreeImage for the sheet generator.
 #include "platform/imagen.h"
 
 #include <FreeImage.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,11 +13,11 @@
 #include <utility>
 
 #include "platform/error_ejecucion.h"
+#include "platform/lector_bmp.h"
 
 namespace {
 
-constexpr int64_t kLadoMaximo = 30000;
-constexpr int64_t kPixelesMaximos = 200'000'000;
+constexpr qint64 kTamanoMaximo = qint64(1) << 30;  // 200 million pixels of 32 bits, and more
 
 void Sin_Mensajes(FREE_IMAGE_FORMAT, const char*) {}
 
@@ -30,61 +33,27 @@ void Inicia_FreeImage() {
     throw ErrorEjecucion(motivo);
 }
 
-uint32_t Lee32(const unsigned char* p) {
-    return p[0] | (p[1] << 8) | (p[2] << 16) | (static_cast<uint32_t>(p[3]) << 24);
-}
-uint16_t Lee16(const unsigned char* p) {
-    return static_cast<uint16_t>(p[0] | (p[1] << 8));
-}
-
-// Checks the file and header of a BMP so that the loader only ever sees a sound file.
-void Verifica_Bmp(const QString& ruta) {
-    QFile f(ruta);
+// The bytes of a regular file. A folder, a pipe or a device is refused before anything is read
+// from it, so that a pipe named like a sheet never blocks the reading.
+QByteArray Lee_Archivo(const QString& ruta) {
     if (!QFileInfo::exists(ruta)) Falla(QStringLiteral("El archivo no existe"));
-    if (!f.open(QIODevice::ReadOnly)) Falla(QStringLiteral("El archivo no se puede leer"));
-    const int64_t tamano = f.size();
-    if (tamano == 0) Falla(QStringLiteral("El archivo está vacío"));
-    unsigned char c[30] = {};
-    const int64_t leidos = f.read(reinterpret_cast<char*>(c), sizeof c);
-    if (leidos < 2 || c[0] != 'B' || c[1] != 'M')
-        Falla(QStringLiteral("El archivo no es un mapa de bits BMP"));
-    if (leidos < 26) Falla(QStringLiteral("El mapa de bits está truncado: falta su cabecera"));
-    const uint32_t inicio = Lee32(c + 10);
-    const uint32_t cabecera = Lee32(c + 14);
-    int64_t ancho = 0, alto = 0;
-    int bits = 0;
-    uint32_t compresion = 0;
-    if (cabecera == 12) {
-        ancho = Lee16(c + 18);
-        alto = Lee16(c + 20);
-        bits = Lee16(c + 24);
-    } else if (cabecera >= 40 && cabecera <= 124 && leidos >= 30) {
-        ancho = static_cast<int32_t>(Lee32(c + 18));
-        alto = static_cast<int32_t>(Lee32(c + 22));
-        bits = Lee16(c + 28);
-        unsigned char d[4] = {};
-        f.read(reinterpret_cast<char*>(d), 4);
-        compresion = Lee32(d);
-    } else {
-        Falla(QStringLiteral("La cabecera del mapa de bits no es válida"));
+    const int fd = ::open(QFile::encodeName(ruta).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) Falla(QStringLiteral("El archivo no se puede leer"));
+    QFile f;
+    if (!f.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        Falla(QStringLiteral("El archivo no se puede leer"));
     }
-    if (alto < 0) alto = -alto;  // top-down
-    if (ancho <= 0 || alto <= 0 || ancho > kLadoMaximo || alto > kLadoMaximo ||
-        ancho * alto > kPixelesMaximos)
-        Falla(QStringLiteral("La cabecera del mapa de bits declara un tamaño imposible: %1 x %2 "
-                             "píxeles")
-                  .arg(ancho)
-                  .arg(alto));
-    if (bits != 1 && bits != 4 && bits != 8 && bits != 16 && bits != 24 && bits != 32)
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode))
         Falla(
-            QStringLiteral("El mapa de bits tiene %1 bits por píxel, que no se admiten").arg(bits));
-    const bool sin_comprimir = compresion == 0 || compresion == 3;
-    const int64_t necesarios =
-        sin_comprimir ? inicio + (ancho * bits + 31) / 32 * 4 * alto : inicio;
-    if (tamano < necesarios)
-        Falla(QStringLiteral("El mapa de bits está truncado: tiene %1 bytes y necesita %2")
-                  .arg(tamano)
-                  .arg(necesarios));
+            QStringLiteral("No es un archivo común: es una carpeta, una tubería o un dispositivo"));
+    if (st.st_size > kTamanoMaximo)
+        Falla(QStringLiteral("El archivo de %1 bytes es demasiado grande para ser una hoja")
+                  .arg(qint64(st.st_size)));
+    QByteArray datos = f.read(st.st_size);
+    if (f.error() != QFileDevice::NoError) Falla(QStringLiteral("El archivo no se puede leer"));
+    return datos;
 }
 
 }  // namespace
@@ -116,18 +85,13 @@ Imagen& Imagen::operator=(Imagen&& otra) noexcept {
 }
 
 Imagen Imagen::Abre(const QString& ruta) {
+    return Desde_Bytes(Lee_Archivo(ruta));
+}
+
+Imagen Imagen::Desde_Bytes(const QByteArray& datos) {
     Inicia_FreeImage();
-    Verifica_Bmp(ruta);
-    FIBITMAP* dib = FreeImage_Load(FIF_BMP, QFile::encodeName(ruta).constData(), 0);
-    if (!dib) Falla(QStringLiteral("FreeImage no pudo abrir el mapa de bits"));
-    const unsigned bits = FreeImage_GetBPP(dib);
-    if (FreeImage_GetImageType(dib) != FIT_BITMAP || bits == 16) {
-        FIBITMAP* de24 = FreeImage_ConvertTo24Bits(dib);
-        FreeImage_Unload(dib);
-        if (!de24) Falla(QStringLiteral("FreeImage no pudo convertir el mapa de bits"));
-        dib = de24;
-    }
-    return Imagen(dib);
+    return Imagen(Decodifica_Bmp(reinterpret_cast<const uint8_t*>(datos.constData()),
+                                 static_cast<size_t>(datos.size())));
 }
 
 Imagen Imagen::Blanca(int ancho, int alto) {

@@ -1,4 +1,4 @@
-// A sheet's bitmap in memory at 1:1, opened with FreeImage (BMP only). (0,0) is the top-left
+// A sheet's bitmap in memory at 1:1, held in a FreeImage bitmap. (0,0) is the top-left
 // pixel. The reading asks only the red byte of a pixel; `pixel` gives the whole colour.
 #pragma once
 
@@ -17,9 +17,11 @@ class Imagen {
     Imagen(const Imagen&) = delete;
     Imagen& operator=(const Imagen&) = delete;
 
-    // Opens a BMP file (1, 4, 8, 16, 24 or 32 bits, bottom-up or top-down). A file that can't
-    // be opened throws ErrorEjecucion with the reason in Spanish.
+    // Opens a BMP file (every header, depth and compression; see lector_bmp.h). A file that
+    // can't be opened throws ErrorEjecucion with the reason in Spanish.
     static Imagen Abre(const QString& ruta);
+    // The same from the file's bytes.
+    static Imagen Desde_Bytes(const QByteArray& datos);
     // A white 24-bit image to paint on.
     static Imagen Blanca(int ancho, int alto);
 

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 #include "app/estado.h"
 #include "grading/persistencia_respuestas.h"
@@ -29,8 +30,9 @@ CorridaLectura::Paso CorridaLectura::Procesa_Hoja(const QString& nombre) {
     try {
         imagen = Abre_Hoja(Ruta_Hoja);
     } catch (const ErrorEjecucion& error) {
-        throw ErrorEjecucion(
-            QStringLiteral("No se pudo abrir la hoja %1: %2").arg(nombre, error.texto()));
+        throw ErrorEjecucion(QStringLiteral("No se pudo abrir la hoja %1: %2. Retire la hoja %1 "
+                                            "de la carpeta de escaneo y vuelva a corregir.")
+                                 .arg(nombre, error.texto()));
     }
     ++Hojas_Vistas;
     ++lbl_Leidas;
@@ -122,6 +124,7 @@ CorridaLectura::Paso CorridaLectura::Fallo_B() {
         Hubo_Imagen = false;
         if (estado().Lee_Pauta) {
             Eliminar_Pautas_Anteriores_Existentes();
+            Elimina_Hoja(false);
             return Paso::Para;
         }
     }
@@ -189,10 +192,15 @@ void CorridaLectura::Carga_Tabla() {
     Avisa();
 }
 
+// The sheet counts as stored only once its rows are committed.
 CorridaLectura::Paso CorridaLectura::Guarda_Hoja() {
     Transaccion t(*estado().BaseDatos);
-    Graba_Alumno();
+    const bool grabada = Graba_Alumno();
     t.Confirma();
+    if (grabada) {
+        ++resumen.guardadas;
+        guardada_ = true;
+    }
     return Paso::Siguiente;
 }
 
@@ -213,14 +221,14 @@ CorridaLectura::Paso CorridaLectura::Guarda_Pauta() {
         Elimina_Hoja(false);
         return Paso::Para;
     }
-    ++resumen.guardadas;
-    guardada_ = true;
     if (Pautas_Grabadas == e.Numero_Formas_Actual)
         Aviso(QStringLiteral("UD. ha grabado ") + CStr(int(Pautas_Grabadas)) +
                   QStringLiteral(" de : ") + CStr(int(e.Numero_Formas_Actual)),
               QStringLiteral("Graba Pautas"));
     Graba_Alumno();
     t.Confirma();
+    ++resumen.guardadas;
+    guardada_ = true;
     return Paso::Siguiente;
 }
 
@@ -240,28 +248,42 @@ bool CorridaLectura::Hay_Preguntas_Abiertas() {
 }
 
 // Both kinds of run store the sheet as a student's; a refused replacement then deletes the
-// rows the operator meant to keep, as the system does.
-void CorridaLectura::Graba_Alumno() {
+// rows the operator meant to keep, as the system does. True when the sheet's rows stay.
+bool CorridaLectura::Graba_Alumno() {
     if (estado().Agrega_Actual) c.Lst_Recorreccion << c.TxtRut;
     Graba_Prueba_Alumnos(c);
-    if (c.Rut_No_Reemplazado) return Elimina_Prueba_Cargada(c);
-    if (!estado().Lee_Pauta) {
-        ++resumen.guardadas;
-        guardada_ = true;
-    }
+    if (!c.Rut_No_Reemplazado) return true;
+    Elimina_Prueba_Cargada(c);
+    return false;
 }
 
-// Step 18: the sheet leaves the folder once its rows are committed. A read-only or locked
-// file stops the run, so that it is not read and stored again unnoticed.
+// Step 18. A stored student sheet stays in the folder until the next one is committed or the
+// run's grading is: a run stopped in between meets it again.
+void CorridaLectura::Retira_Hoja() {
+    if (!guardada_ || estado().Lee_Pauta) return Elimina_Hoja(guardada_);
+    Elimina_Pendiente();
+    pendiente_ = Ruta_Hoja;
+}
+
 void CorridaLectura::Elimina_Hoja(bool guardada) {
-    if (!QFileInfo::exists(Ruta_Hoja)) return;
-    const QString nombre = QFileInfo(Ruta_Hoja).fileName();
+    Elimina_Archivo(Ruta_Hoja, guardada);
+}
+
+void CorridaLectura::Elimina_Pendiente() {
+    const QString ruta = std::exchange(pendiente_, QString());
+    if (!ruta.isEmpty()) Elimina_Archivo(ruta, true);
+}
+
+// The sheet leaves the folder once its rows are committed. A read-only or locked file stops
+// the run, so that it is not read and stored again unnoticed.
+void CorridaLectura::Elimina_Archivo(const QString& ruta, bool guardada) {
+    if (!QFileInfo::exists(ruta)) return;
+    const QString nombre = QFileInfo(ruta).fileName();
     if (!guardada && !Carpeta_Apartadas.isEmpty()) {
         const QString destino = QDir(Carpeta_Apartadas).filePath(nombre);
         QFile::remove(destino);
-        if (QDir().mkpath(Carpeta_Apartadas) && QFile::rename(Ruta_Hoja, destino)) return;
-    } else if ((QFile::permissions(Ruta_Hoja) & QFileDevice::WriteOwner) &&
-               QFile::remove(Ruta_Hoja)) {
+        if (QDir().mkpath(Carpeta_Apartadas) && QFile::rename(ruta, destino)) return;
+    } else if ((QFile::permissions(ruta) & QFileDevice::WriteOwner) && QFile::remove(ruta)) {
         return;
     }
     throw ErrorEjecucion(

@@ -136,8 +136,11 @@ void CorridaLectura::CmdCorregir_Pruebas() {
         Ruta_Hoja = QDir(Carpeta).filePath(nombre);
         if (!Es_Bitmap(Ruta_Hoja)) continue;
         guardada_ = false;
-        if (Procesa_Hoja(nombre) == Paso::Para) return Avisa();
-        Elimina_Hoja(guardada_);
+        if (Procesa_Hoja(nombre) == Paso::Para) {
+            Elimina_Pendiente();
+            return Avisa();
+        }
+        Retira_Hoja();
     }
     resumen.completa = true;
     Fin_Corrida();
@@ -147,21 +150,30 @@ void CorridaLectura::Fin_Corrida() {
     if (c.Rut_No_Reemplazado) {
         // Only the last sheet's refusal brings the earlier ones off the count.
         Hojas_Corregidas = CInt(Hojas_Corregidas - c.Cant_No_Reemplazados);
-        if (Hojas_Corregidas == 0) return Avisa();
+        if (Hojas_Corregidas == 0) return Sin_Correccion();
     }
     if (estado().Lee_Pauta) return Fin_Pauta();
-    if (Hojas_Corregidas <= 0) return Avisa();
+    if (Hojas_Corregidas <= 0) return Sin_Correccion();
+    // Graded and committed before the last stored sheet leaves the folder: a run stopped while
+    // grading meets that sheet again, and grades.
     {
         Transaccion t(*estado().BaseDatos);
         Calcula_Notas_Tabla(c.Notas);
         Resultados_Alumnos_Pruebas(c);
         t.Confirma();
     }
+    Elimina_Pendiente();
     Avisa();
     Aviso(QStringLiteral("Se han Corregido la cantidad de ") + CStr(int(Hojas_Corregidas)) +
               QStringLiteral(" pruebas"),
           QStringLiteral("Fin Coreccion"));
     observador_->Cierra_Y_Muestra_Lista();
+}
+
+// The run ends without grading; the last stored sheet leaves the folder all the same.
+void CorridaLectura::Sin_Correccion() {
+    Elimina_Pendiente();
+    Avisa();
 }
 
 void CorridaLectura::Fin_Pauta() {

@@ -99,13 +99,17 @@ class CorridaLectura {
     Paso Guarda_Hoja();
     Paso Guarda_Pauta();
     bool Hay_Preguntas_Abiertas();
-    void Graba_Alumno();
+    bool Graba_Alumno();
     void Carga_Tabla();
     bool Verifica_Pauta_Declarada();
     QString Carpeta_Escaneo() const;
     void Fin_Corrida();
+    void Sin_Correccion();
     void Fin_Pauta();
+    void Retira_Hoja();
     void Elimina_Hoja(bool guardada);
+    void Elimina_Pendiente();
+    void Elimina_Archivo(const QString& ruta, bool guardada);
     QString Pide_Rut();
     bool Confirma_Eliminar();
     void Avisa();
@@ -114,6 +118,7 @@ class CorridaLectura {
     ObservadorCorrida* observador_;
     ObservadorCorrida nulo_;
     bool guardada_ = false;  // the sheet in hand has rows committed
+    QString pendiente_;      // the last stored student sheet, removed once graded
 };
 
 // Alumno_Existe: true when NO student has this rut, false when one has; the run reads it so.

@@ -40,7 +40,12 @@ QString Linea_Scaner_Ini(int linea) {
 }
 
 QStringList Archivos_Carpeta(const QString& carpeta) {
-    return QDir(carpeta).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    const QDir dir(carpeta);
+    if (carpeta.trimmed().isEmpty() || !dir.exists())
+        throw ErrorEjecucion(QStringLiteral("No existe la carpeta de escaneo \"%1\". Revise la "
+                                            "línea 1 de scaner.ini o cree la carpeta.")
+                                 .arg(QDir::toNativeSeparators(carpeta)));
+    return dir.entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
 bool Es_Bitmap(const QString& texto) {

@@ -11,7 +11,8 @@ QString Ruta_Scaner_Ini();
 // ErrorEjecucion.
 QString Linea_Scaner_Ini(int linea);
 
-// File1: the names of the folder's files, in name order.
+// File1: the names of the folder's files, in name order. A missing folder throws
+// ErrorEjecucion, as setting the file list to it does.
 QStringList Archivos_Carpeta(const QString& carpeta);
 // A sheet is a file whose text holds ".bmp", compared case-blind anywhere.
 bool Es_Bitmap(const QString& texto);

@@ -5,6 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
+#include <cstdio>
+#include <random>
 
 #include "app/estado.h"
 #include "platform/base_datos.h"
@@ -64,6 +67,9 @@ class ZortaCorregir : public BaseArrancada {
         salida = QString::fromUtf8(p->readAllStandardOutput());
         return p->exitCode();
     }
+    int Guardados() {
+        return Valor("select count(distinct rut_alumno) from respuesta_alumnos_por_rut").toInt();
+    }
     QStringList En_Carpeta() {
         return QDir(escaneo).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
     }
@@ -100,6 +106,29 @@ TEST_F(ZortaCorregir, PrintsEveryBoxAndASummary) {
     EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), 10);
 }
 
+// Answers stored by a run that stopped before grading them are graded by the next
+// `zorta corregir`, even with nothing left in the folder, and it says so.
+TEST_F(ZortaCorregir, GradesStoredAnswersThatHaveNoResult) {
+    const QString rut = Rut_Con_Digito(12345678);
+    Ejecuta("insert into ALUMNOS values (?, 'Alumno', '1A', '')", {rut});
+    for (int q = 0; q < 10; ++q)
+        Ejecuta(
+            "insert into respuesta_alumnos_por_rut (idprueba, pregunta, forma, alternativa, "
+            "rut_alumno) values (7, ?, 1, ?, ?)",
+            {q + 1, q < 8 ? kLetras[q] - 'A' + 1 : 6, rut});
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0) << salida.toStdString();
+    EXPECT_TRUE(
+        salida.contains("Se calcularon las notas de 1 alumnos que tenían respuestas "
+                        "grabadas y no tenían nota"))
+        << salida.toStdString();
+    EXPECT_EQ(
+        Valor("select buenas || '/' || omitidas from ResultadoAlumnos_rj where rut = ?", {rut})
+            .toString(),
+        "8/2");
+    EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0);
+    EXPECT_FALSE(salida.contains("Se calcularon las notas")) << "only once";
+}
+
 TEST_F(ZortaCorregir, ArgumentsAndExitStatus) {
     EXPECT_EQ(Termina(Zorta({"--help"})), 0);
     EXPECT_TRUE(salida.startsWith("Uso: zorta corregir --prueba N"));
@@ -112,26 +141,44 @@ TEST_F(ZortaCorregir, ArgumentsAndExitStatus) {
         "[Error de ejecución] No se encuentra el archivo de configuración del escáner"));
 }
 
-TEST_F(ZortaCorregir, KilledHalfwayAndRunAgainStoresEverySheetOnce) {
-    constexpr int kHojas = 100;
-    for (int n = 0; n < kHojas; ++n) Alumno_Con_Hoja(n);
-    QProcess* primera = Zorta({"--prueba", "7"});
-    QByteArray visto;
-    while (!visto.contains("Hoja 20 de") && primera->waitForReadyRead(60000))
-        visto += primera->readAllStandardOutput();
-    primera->kill();
-    primera->waitForFinished();
-    const int quedan = En_Carpeta().size();
-    EXPECT_GT(quedan, 0) << "killed before the end";
-    EXPECT_LT(quedan, kHojas);
-
+// Kill soak: `zorta corregir` killed at many moments of its run: at random sheets, then right
+// after the last sheet is stored, while it grades; then run to its end. Every sheet
+// is stored once and every student graded. A long soak: ZORTA_SOAK_HOJAS (200 by default) and
+// ZORTA_SOAK_MUERTES (16).
+TEST_F(ZortaCorregir, KillSoakLosesNoSheetAndNoGrade) {
+    const int hojas = qEnvironmentVariableIntValue("ZORTA_SOAK_HOJAS") ?: 200;
+    const int muertes = qEnvironmentVariableIntValue("ZORTA_SOAK_MUERTES") ?: 16;
+    for (int n = 0; n < hojas; ++n) Alumno_Con_Hoja(n);
+    std::mt19937 azar(20261125);
+    int al_corregir = 0;  // kills after the last sheet was stored and before it was graded
+    for (int i = 0; i < muertes && !En_Carpeta().isEmpty(); ++i) {
+        const int quedan = int(En_Carpeta().size());
+        // Two kills in three at an early sheet of what is left, the rest while grading.
+        const bool ultima = i >= muertes * 2 / 3;
+        const int hoja = ultima ? quedan : int(azar() % std::max(1, quedan / 8)) + 1;
+        QProcess* p = Zorta({"--prueba", "7"});
+        QByteArray visto;
+        const QByteArray marca = "Hoja " + QByteArray::number(hoja) + " de ";
+        while (!visto.contains(marca) && p->waitForReadyRead(60000))
+            visto += p->readAllStandardOutput();
+        // The last sheet's kill waits for its commit, and lands while the run grades.
+        for (int espera = 0; ultima && espera < 5000 && Guardados() < hojas; ++espera)
+            QThread::msleep(1);
+        QThread::msleep(azar() % (ultima ? 4 : 25));
+        p->kill();
+        p->waitForFinished();
+        if (Guardados() == hojas &&
+            Valor("select count(*) from ResultadoAlumnos_rj").toInt() < hojas)
+            ++al_corregir;
+    }
+    std::printf("%d hojas, %d muertes, %d entre la última hoja y las notas\n", hojas, muertes,
+                al_corregir);
     EXPECT_EQ(Termina(Zorta({"--prueba", "7"})), 0) << salida.toStdString();
     EXPECT_TRUE(En_Carpeta().isEmpty());
-    EXPECT_EQ(Valor("select count(distinct rut_alumno) from respuesta_alumnos_por_rut").toInt(),
-              kHojas);
-    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), kHojas * 10)
+    EXPECT_EQ(Guardados(), hojas);
+    EXPECT_EQ(Valor("select count(*) from respuesta_alumnos_por_rut").toInt(), hojas * 10)
         << "none twice";
-    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), kHojas);
+    EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj").toInt(), hojas);
     EXPECT_EQ(Valor("select count(*) from ResultadoAlumnos_rj where Buenas + Malas <> 10").toInt(),
               0);
 }

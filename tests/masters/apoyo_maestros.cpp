@@ -1,6 +1,8 @@
 // Shared set-up of the master-data tests.
 #include "apoyo_maestros.h"
 
+#include <zip.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -49,4 +51,30 @@ void Teclea(QWidget* control, const QString& texto) {
         QKeyEvent suelta(QEvent::KeyRelease, tecla, Qt::NoModifier, QString(c));
         QApplication::sendEvent(control, &suelta);
     }
+}
+
+void Escribe_Xlsx(const QString& ruta, const QByteArray& celdas, const QByteArray& compartidos) {
+    const QByteArray ns = "xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"";
+    std::vector<std::pair<const char*, QByteArray>> partes = {
+        {"xl/workbook.xml", "<workbook " + ns +
+                                " xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+                                "relationships\"><sheets><sheet name=\"Hoja1\" sheetId=\"1\" "
+                                "r:id=\"rId1\"/></sheets></workbook>"},
+        {"xl/_rels/workbook.xml.rels",
+         "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+         "<Relationship Id=\"rId1\" Target=\"worksheets/sheet1.xml\" Type=\"x\"/>"
+         "</Relationships>"},
+        {"xl/worksheets/sheet1.xml",
+         "<worksheet " + ns + "><sheetData>" + celdas + "</sheetData></worksheet>"},
+    };
+    if (!compartidos.isNull()) partes.push_back({"xl/sharedStrings.xml", compartidos});
+    QFile::remove(ruta);
+    int error = 0;
+    zip_t* zip = zip_open(QFile::encodeName(ruta).constData(), ZIP_CREATE, &error);
+    ASSERT_NE(zip, nullptr);
+    for (const auto& [nombre, datos] : partes) {
+        zip_source_t* fuente = zip_source_buffer(zip, datos.constData(), datos.size(), 0);
+        ASSERT_GE(zip_file_add(zip, nombre, fuente, ZIP_FL_OVERWRITE), 0);
+    }
+    ASSERT_EQ(zip_close(zip), 0);
 }

@@ -20,6 +20,11 @@ class Maestros : public BaseArrancada {
     static bool Comando(const std::function<void()>& comando);
 };
 
+// Writes an .xlsx workbook of one sheet: `celdas` is the inside of <sheetData>; `compartidos`,
+// when not null, the whole shared-strings part.
+void Escribe_Xlsx(const QString& ruta, const QByteArray& celdas,
+                  const QByteArray& compartidos = QByteArray());
+
 class QWidget;
 // Types `texto` into a control one key press at a time, as the operator does.
 void Teclea(QWidget* control, const QString& texto);

@@ -9,6 +9,7 @@
 
 #include "apoyo_maestros.h"
 #include "platform/screens/lista_clave.h"
+#include "store/rut.h"
 
 namespace {
 
@@ -128,6 +129,8 @@ TEST_F(Alumnos, SearchFromTheStartOfTheRut) {
         {"5", {"5126663-3"}},
         {"1", {"12345678-5", "1512666-K"}},
         {"1234", {"12345678-5"}},
+        {"%", {}},  // typed characters, never wildcards
+        {"1_3", {}},
         {"9", {}},
         {"", {}}};
     for (const auto& [texto, ruts] : casos) {
@@ -228,6 +231,20 @@ TEST_F(Alumnos, FailuresAfterTheDeletesKeepWhatWasStored) {
     // A file that can't be opened fails after the deletes.
     guion->Espera("Error de ejecución");
     EXPECT_FALSE(Comando([&] { f.Carga_Masiva_Por_Archivo(Ruta("no_existe.xlsx")); }));
+    EXPECT_EQ(Cuenta("ALUMNOS"), 0);
+    // A damaged workbook (its shared texts cut short after 22 students) loads none of them.
+    QByteArray filas, textos;
+    for (int i = 0; i < 45; ++i) {
+        filas += QStringLiteral("<row r=\"%1\"><c r=\"A%1\" t=\"s\"><v>%2</v></c></row>")
+                     .arg(i + 1)
+                     .arg(i)
+                     .toUtf8();
+        textos += "<si><t>" + Rut_Con_Digito(10000000 + i).toUtf8() + "</t></si>";
+    }
+    Escribe_Xlsx(Ruta("danada.xlsx"), filas, "<sst>" + textos.left(textos.size() / 2));
+    guion->Espera("Error de ejecución");
+    EXPECT_FALSE(Comando([&] { f.Carga_Masiva_Por_Archivo(Ruta("danada.xlsx")); }));
+    EXPECT_TRUE(guion->cajas.back().texto.contains(Ruta("danada.xlsx")));
     EXPECT_EQ(Cuenta("ALUMNOS"), 0);
 }
 

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "apoyo_maestros.h"
 #include "platform/error_ejecucion.h"
 
 namespace {
@@ -83,6 +84,84 @@ TEST(PlanillaLectura, MissingFileOrBrokenWorkbookIsAnError) {
     f.write("PK\x03\x04 no es un zip");
     f.close();
     EXPECT_THROW(PlanillaLectura::Abre(f.fileName()), ErrorEjecucion);
+}
+
+// A workbook the spreadsheet program would refuse gives nothing, and the message names the file.
+TEST(PlanillaLectura, DamagedWorkbooksGiveNothing) {
+    QTemporaryDir dir;
+    QByteArray filas;
+    for (int i = 1; i <= 45; ++i)
+        filas += QStringLiteral("<row r=\"%1\"><c r=\"A%1\" t=\"s\"><v>%2</v></c></row>")
+                     .arg(i)
+                     .arg(i - 1)
+                     .toUtf8();
+    QByteArray textos = "<sst xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\">";
+    for (int i = 0; i < 45; ++i)
+        textos += "<si><t>" + QByteArray::number(10000000 + i) + "</t></si>";
+    const QByteArray sst_fin = "</sst>";
+    const QByteArray una = "<row r=\"1\"><c r=\"A1\" t=\"s\"><v>0</v></c></row>";
+    const auto sst = [](const QByteArray& si) {
+        return "<sst xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><si><t>" +
+               si + "</t></si></sst>";
+    };
+    struct Caso {
+        const char* nombre;
+        QByteArray celdas, compartidos;
+        QString motivo;
+    };
+    const std::vector<Caso> casos = {
+        {"textos compartidos cortados", filas, textos.left(textos.size() / 2), "está cortada"},
+        {"un NUL en un texto", una, sst(QByteArray("AB\0C", 4)), "está dañada"},
+        {"UTF-8 inválido", una, sst("\xC3\x28"), "está dañada"},
+        {"una DTD", una, "<!DOCTYPE sst [<!ENTITY e \"x\">]>" + sst("&e;"), "trae una DTD"},
+        {"sin textos compartidos", una, QByteArray(), "falta la parte"},
+        {"índice de texto que no existe", "<row r=\"1\"><c r=\"A1\" t=\"s\"><v>45</v></c></row>",
+         textos + sst_fin, "\"45\", que no existe"},
+        {"columna desbordada",
+         "<row r=\"1\"><c r=\"ZZZZZZZ1\"><v>1</v></c></row>",
+         {},
+         "\"ZZZZZZZ1\" está fuera"},
+        {"fila desbordada",
+         "<row r=\"2147483647\"><c r=\"A2147483647\"><v>1</v></c></row>",
+         {},
+         "\"2147483647\" está fuera"},
+        {"texto de más de 32767 caracteres", una, sst(QByteArray(40000, 'a')), "más de 32767"},
+    };
+    for (const Caso& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        const QString ruta = dir.filePath("lista.xlsx");
+        Escribe_Xlsx(ruta, caso.celdas, caso.compartidos);
+        try {
+            const PlanillaLectura hoja = PlanillaLectura::Abre(ruta);
+            ADD_FAILURE() << "read " << hoja.Filas() << " rows";
+        } catch (const ErrorEjecucion& e) {
+            EXPECT_TRUE(e.texto().startsWith("No se pudo leer la planilla " + ruta +
+                                             ": el libro está dañado ("))
+                << e.texto().toStdString();
+            EXPECT_TRUE(e.texto().endsWith("). No se cargó nada de él."))
+                << e.texto().toStdString();
+            EXPECT_LT(e.texto().size(), 300);
+            EXPECT_TRUE(e.texto().contains(caso.motivo)) << e.texto().toStdString();
+        }
+    }
+    // The same list whole is read.
+    Escribe_Xlsx(dir.filePath("buena.xlsx"), filas, textos + sst_fin);
+    EXPECT_EQ(PlanillaLectura::Abre(dir.filePath("buena.xlsx")).Celda(45, "A"), "10000044");
+}
+
+// Reading ends at the last row a list can hold: what lies past it is never read.
+TEST(PlanillaLectura, ReadingStopsAtTheRowLimit) {
+    QTemporaryDir dir;
+    QByteArray filas;
+    for (int i = 1; i <= 10001; ++i)
+        filas += "<row r=\"" + QByteArray::number(i) + "\"><c><v>" + QByteArray::number(i) +
+                 "</v></c></row>";
+    filas += "<row r=\"10002\"><c r=\"ZZZZZZZ1\"><v>1</v></c></row>";
+    Escribe_Xlsx(dir.filePath("larga.xlsx"), filas);
+    const PlanillaLectura hoja = PlanillaLectura::Abre(dir.filePath("larga.xlsx"));
+    EXPECT_EQ(hoja.Filas(), 10000);
+    EXPECT_EQ(hoja.Celda(10000, "A"), "10000");
+    EXPECT_EQ(PlanillaLectura::Abre(dir.filePath("larga.xlsx"), 100).Filas(), 100);
 }
 
 }  // namespace

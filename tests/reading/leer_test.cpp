@@ -3,6 +3,7 @@
 #include "cli/leer.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QFile>
 #include <QProcess>
@@ -116,4 +117,19 @@ TEST(ZortaLeer, ArchivosMalosNoDetienenLaLectura) {
                   "{\"archivo\": \"buena.bmp\", \"distancia\": 860, \"marcas_grandes\": false, "
                   "\"forma\": 2, \"rut\": \"12345678-5\", \"respuestas\": [\"A\",\"B\"], "
                   "\"fallo\": null}"));
+}
+
+// Only regular files are opened: a pipe named like a sheet gets its error line at once.
+TEST(ZortaLeer, UnaTuberiaNoBloquea) {
+    QTemporaryDir dir;
+    const QString tuberia = dir.filePath(QStringLiteral("x.bmp"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(tuberia).constData(), 0600), 0);
+    QProcess zorta;
+    zorta.start(QStringLiteral(ZORTA_EJECUTABLE), {QStringLiteral("leer"), tuberia});
+    const bool termino = zorta.waitForFinished(20000);
+    if (!termino) zorta.kill(), zorta.waitForFinished();
+    ASSERT_TRUE(termino);
+    EXPECT_EQ(zorta.exitCode(), 2);
+    EXPECT_TRUE(QString::fromUtf8(zorta.readAllStandardOutput())
+                    .contains(QStringLiteral("No es un archivo común")));
 }

@@ -204,8 +204,13 @@ void FrmAlumnos::XPButActualiza_Click() {
 void FrmAlumnos::txtBuscaRut_Change() {
     if (txtBuscaRut->text().isEmpty()) return;
     SprAlumnos.SetMaxRows(0);
-    Recordset rs = base().OpenRecordset(QStringLiteral("SELECT * FROM ALUMNOS Where rut like ?"),
-                                        {txtBuscaRut->text() + u'%'});
+    // A search from the start of the rut: "%" and "_" typed in the box are plain characters.
+    QString prefijo = txtBuscaRut->text();
+    prefijo.replace(u'\\', QLatin1String("\\\\"))
+        .replace(u'%', QLatin1String("\\%"))
+        .replace(u'_', QLatin1String("\\_"));
+    Recordset rs = base().OpenRecordset(
+        QStringLiteral("SELECT * FROM ALUMNOS Where rut like ? escape '\\'"), {prefijo + u'%'});
     for (; !rs.Eof(); rs.MoveNext())
         Agrega_Alumno(rs[QStringLiteral("Rut")].toString(),
                       rs[QStringLiteral("PRIMERAPELLIDO")].toString(),

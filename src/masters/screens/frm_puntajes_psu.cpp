@@ -9,11 +9,11 @@
 
 #include "app/estado.h"
 #include "masters/carga_planilla.h"
-#include "platform/screens/controles.h"
 #include "platform/base_datos.h"
 #include "platform/dialogos.h"
 #include "platform/numeros.h"
 #include "platform/planilla_lectura.h"
+#include "platform/screens/controles.h"
 
 namespace {
 
@@ -131,7 +131,7 @@ void frmPuntajesPSU::Carga_Masiva_Por_Archivo(const QString& ruta) {
         return;
     }
     Spr_PSU.SetMaxRows(0);
-    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta);
+    const PlanillaLectura hoja = PlanillaLectura::Abre(ruta, 200);
     Spr_PSU.SetMaxRows(1);
     Spr_PSU.FijaCelda(1, 1, QStringLiteral("0"));
     Spr_PSU.FijaCelda(1, 2, QStringLiteral("150"));
